@@ -1,0 +1,122 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "kvopt/export.h"
+#include "kvopt/platform/controls.h"
+#include "kvopt/platform/message_map.h"
+#include "kvopt/platform/window.h"
+
+namespace kvopt {
+
+struct KeyStroke;
+
+/// Results of a modal run, with the numbers of the desktop.
+enum ModalResult : int {
+    kResultOk = 1,
+    kResultCancel = 2,
+    kResultCancelRequested = 5,  ///< a plot was abandoned while a sheet applied
+    kResultFinish = 12325,
+};
+
+/// One run of a data exchange: from the controls to the members (`save`) or back.
+struct CDataExchange {
+    CDialog& dialog;
+    bool save = false;
+};
+
+/// A dialog made from a template: owns its control models, routes their notifications, exchanges
+/// data with its members. A property page is one too. It has a window (its controls exist) from
+/// Create on; before, GetDlgItem gives null.
+class KVOPT_EXPORT CDialog : public CWnd {
+public:
+    CDialog(int templateNumber, CWnd* parent);
+    ~CDialog() override;
+
+    int TemplateNumber() const { return templateNumber_; }
+    /// Throws InvalidArgument when the catalog has no template of the number.
+    const DialogTemplate& Template() const;
+
+    /// Makes the controls and runs OnInitDialog, once; a second call does nothing. Throws
+    /// InvalidArgument for an unknown template.
+    void Create();
+    bool HasWindow() const { return hasWindow_; }
+    /// Ends the window: the controls are gone. What owns a control pointer must let go in
+    /// OnDestroyWindow.
+    void DestroyWindow();
+
+    /// Null when there is no window or no such control.
+    CControl* GetDlgItem(int number) const;
+    /// The control of this number as `T`; null when it is absent or of another kind.
+    template <class T>
+    T* Item(int number) const {
+        return dynamic_cast<T*>(GetDlgItem(number));
+    }
+    /// In tab order, anonymous ones included.
+    const std::vector<std::unique_ptr<CControl>>& Controls() const { return controls_; }
+
+    /// Runs the dialog through the desktop; gives the number passed to EndDialog.
+    int DoModal();
+    void EndDialog(int result);
+    bool HasEnded() const { return ended_; }
+    int Result() const { return result_; }
+
+    /// Controls to members (true) or members to controls (false).
+    bool UpdateData(bool save);
+
+    virtual bool OnInitDialog();
+    virtual void OnOK();
+    virtual void OnCancel();
+    virtual void DoDataExchange(CDataExchange& exchange);
+    /// A key stroke before it goes to the focused control; true when it was used up.
+    virtual bool PreTranslateMessage(const KeyStroke& key);
+    bool OnCommand(int command) override;
+
+    /// The user presses OK or Cancel of a free-standing dialog (not of a page).
+    bool UserOk();
+    bool UserCancel();
+
+    /// Moves the focus by program, as the next-dialog-control message does.
+    void GotoDlgCtrl(CControl* control);
+    CControl* GetFocusControl() const { return focus_; }
+
+    // For controls.
+    void DispatchNotification(CControl& control, Notification what);
+    void NoteProgramFocus(CControl& control);
+    void MoveUserFocus(CControl* control);
+    /// The window that the user must be able to reach: the dialog itself, or a page's sheet.
+    virtual bool IsReachable() const;
+
+protected:
+    /// Adds the handlers; a derived class calls its base first.
+    virtual void GetMessageMap(MessageMap& map);
+    virtual void OnDestroyWindow();
+
+private:
+    void MakeControls();
+
+    int templateNumber_;
+    bool hasWindow_ = false;
+    bool ended_ = false;
+    int result_ = kResultCancel;
+    std::vector<std::unique_ptr<CControl>> controls_;
+    MessageMap messageMap_;
+    CControl* focus_ = nullptr;
+
+    friend class Desktop;
+};
+
+/// Connects a pointer member with its control; null when the template has no such control.
+template <class T>
+void DDX_Control(CDataExchange& exchange, int number, T*& control) {
+    control = exchange.dialog.Item<T>(number);
+}
+KVOPT_EXPORT void DDX_Text(CDataExchange& exchange, int number, std::wstring& text);
+KVOPT_EXPORT void DDX_Check(CDataExchange& exchange, int number, bool& checked);
+/// `first` is the radio button that starts the group; `index` is zero-based, -1 without a mark.
+KVOPT_EXPORT void DDX_Radio(CDataExchange& exchange, int first, int& index);
+KVOPT_EXPORT void DDX_CBIndex(CDataExchange& exchange, int number, int& index);
+
+}  // namespace kvopt

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <vector>
+
+#include "kvopt/export.h"
+
+namespace kvopt {
+
+class CWnd;
+
+/// A key with its modifiers. `key` is the upper-case character, or one of the constants below.
+struct KeyStroke {
+    int key = 0;
+    bool control = false;
+    bool shift = false;
+    bool alt = false;
+    bool operator==(const KeyStroke&) const = default;
+};
+
+inline constexpr int kKeyInsert = 0x2D;
+inline constexpr int kKeyDelete = 0x2E;
+
+/// Commands of the desktop that the library names.
+inline constexpr int kCommandCopy = 57634;
+inline constexpr int kCommandPaste = 57637;
+inline constexpr int kCommandSelectAll = 57642;
+inline constexpr int kCommandHelp = 57670;
+
+/// Keys that stand for commands, by the number of their table.
+class KVOPT_EXPORT AcceleratorTable {
+public:
+    /// Null when there is no table of this number.
+    static const AcceleratorTable* Find(int number);
+
+    /// Sends the key's command to `target`; true when the key is in the table and was handled.
+    bool Translate(CWnd* target, const KeyStroke& key) const;
+
+private:
+    struct Entry {
+        KeyStroke key;
+        int command;
+    };
+    explicit AcceleratorTable(std::vector<Entry> entries) : entries_(std::move(entries)) {}
+    std::vector<Entry> entries_;
+};
+
+}  // namespace kvopt

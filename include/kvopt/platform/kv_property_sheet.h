@@ -1,0 +1,19 @@
+#pragma once
+
+#include "kvopt/export.h"
+#include "kvopt/platform/property_sheet.h"
+
+namespace kvopt {
+
+class KvPropertyPage;
+
+/// The sheet that holds the library's pages.
+class KVOPT_EXPORT KvPropertySheet : public CPropertySheet {
+public:
+    /// `startPage` is the zero-based index of the page to start with.
+    KvPropertySheet(const wchar_t* caption, CWnd* parent, unsigned startPage);
+
+    void AddPage(KvPropertyPage* page);
+};
+
+}  // namespace kvopt
