@@ -1,6 +1,7 @@
 # Compiler settings shared by every target, and the one way a library of this project is made.
 
 option(KVOPT_WERROR "Treat warnings as errors" ON)
+option(KVOPT_TIDY "Run clang-tidy on the sources of the libraries" OFF)
 option(KVOPT_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
@@ -48,5 +49,9 @@ function(kvopt_library name)
         PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/src" "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:kvopt_options>)
     target_compile_features(${name} PUBLIC cxx_std_20)
+    if(KVOPT_TIDY)
+        set_target_properties(${name} PROPERTIES
+            CXX_CLANG_TIDY "${PROJECT_SOURCE_DIR}/tools/cached-tidy")
+    endif()
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0)
 endfunction()
