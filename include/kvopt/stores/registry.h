@@ -30,7 +30,7 @@ public:
     /// Puts another registry in place and gives the former one back. Null puts the default back.
     static std::shared_ptr<Registry> Install(std::shared_ptr<Registry> registry);
 
-    /// The key of this path, created when it is not there.
+    /// The key of this path; it comes to be with its first value, and Flush() writes it through.
     virtual std::unique_ptr<ConfigurationSection> GetKey(const std::string& path);
     /// The names of the keys right below this one; none when it is not there.
     virtual std::vector<std::string> SubKeys(const std::string& path) const;

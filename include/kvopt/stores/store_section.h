@@ -52,6 +52,8 @@ public:
     std::vector<std::string> KeyNames() const;
     /// The names of the sections inside this one, in the store's order, each name once.
     std::vector<std::string> SectionNames() const;
+    /// The section at the end of this path down from here; not created before its first key.
+    std::unique_ptr<StoreSection> Descend(const SectionPath& path) const;
     /// Takes every child of this name out of the section, with all that lies below it.
     void RemoveSections(const char* name);
 

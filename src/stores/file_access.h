@@ -1,0 +1,66 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "kvopt/export.h"
+#include "stores/file_layer.h"
+
+/// \file
+/// Whole files: read, lock, write so that a crash leaves the old content or the new one. Failures
+/// are FileError.
+
+namespace kvopt {
+
+/// What tells one state of a file from another. A file that is not there has a state of its own.
+struct FileStamp {
+    bool isThere = false;
+    dev_t device = 0;
+    ino_t inode = 0;
+    off_t size = 0;
+    std::int64_t seconds = 0;
+    std::int64_t nanoseconds = 0;
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+/// The file that a name leads to: absolute, symbolic links followed. The file itself need not
+/// exist.
+std::string ResolvePath(const std::string& fileName);
+
+FileStamp StampOf(FileLayer& layer, const std::string& path);
+
+/// The content, and its stamp where one is wanted; false when there is no such file.
+KVOPT_EXPORT bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& content,
+                                FileStamp* stamp = nullptr);
+
+/// Writes a temporary file in the same folder, flushes it to disk, renames it over the old file,
+/// whose mode it takes on, and flushes the folder. The path must be a resolved one. Gives the stamp
+/// of the new file.
+KVOPT_EXPORT FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path,
+                                           std::string_view content);
+
+/// Moves a file to the first free of the names "FILE.unreadable-1", "-2", ... and gives the new
+/// name.
+std::string SetFileAside(FileLayer& layer, const std::string& path);
+
+/// Holds the lock on a file that this library's processes take before they read it in order to
+/// write it. Makes an empty file where there is none, since the lock is the file's own. Waits up to
+/// ten seconds for another process.
+class FileLock {
+public:
+    FileLock(std::shared_ptr<FileLayer> layer, const std::string& path);
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+    ~FileLock();
+
+private:
+    std::shared_ptr<FileLayer> layer_;
+    int file_ = -1;
+};
+
+}  // namespace kvopt

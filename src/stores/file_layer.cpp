@@ -1,0 +1,68 @@
+#include "stores/file_layer.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace kvopt {
+
+FileLayer::~FileLayer() = default;
+
+std::shared_ptr<FileLayer> FileLayer::System() {
+    static const std::shared_ptr<FileLayer> layer = std::make_shared<FileLayer>();
+    return layer;
+}
+
+int FileLayer::Open(const std::string& path, int flags, mode_t mode) {
+    return ::open(path.c_str(), flags | O_CLOEXEC, mode);
+}
+
+ssize_t FileLayer::Read(int file, char* buffer, std::size_t size) {
+    return ::read(file, buffer, size);
+}
+
+ssize_t FileLayer::Write(int file, const char* buffer, std::size_t size) {
+    return ::write(file, buffer, size);
+}
+
+int FileLayer::Sync(int file) {
+    return ::fsync(file);
+}
+
+int FileLayer::Close(int file) {
+    return ::close(file);
+}
+
+int FileLayer::ChangeMode(int file, mode_t mode) {
+    return ::fchmod(file, mode);
+}
+
+int FileLayer::StatusOfFile(int file, struct stat& status) {
+    return ::fstat(file, &status);
+}
+
+int FileLayer::Status(const std::string& path, struct stat& status) {
+    return ::stat(path.c_str(), &status);
+}
+
+int FileLayer::TryLock(int file) {
+    return ::flock(file, LOCK_EX | LOCK_NB);
+}
+
+int FileLayer::Rename(const std::string& from, const std::string& to) {
+    return ::rename(from.c_str(), to.c_str());
+}
+
+int FileLayer::RenameToNew(const std::string& from, const std::string& to) {
+    // A hard link refuses a name that is taken, on every system; the old name goes afterwards.
+    return ::link(from.c_str(), to.c_str()) == 0 ? ::unlink(from.c_str()) : -1;
+}
+
+int FileLayer::Remove(const std::string& path) {
+    return ::unlink(path.c_str());
+}
+
+}  // namespace kvopt

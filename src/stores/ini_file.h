@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kvopt/export.h"
+#include "kvopt/stores/store_trouble.h"
+#include "stores/file_access.h"
+#include "stores/section_store.h"
+
+namespace kvopt {
+
+/// An ini file in memory. Reads the file whole; writes the changes made since into whatever the
+/// file holds by then, under the file's lock, so that two processes lose nothing of each other's.
+/// Released with changes, it writes them.
+class KVOPT_EXPORT IniFile : public SectionStore {
+public:
+    /// Without a file.
+    IniFile();
+    /// Of a resolved path; reads nothing yet.
+    IniFile(std::string path, std::shared_ptr<FileLayer> layer);
+    ~IniFile() override;
+
+    /// Reads the file where it changed since the last look, keeping what was changed here. A file
+    /// that is no ini file is set aside. Throws FileError when the file cannot be read.
+    void Refresh();
+    void Flush() override;
+
+private:
+    void Load();
+    void LoadOrSetAside();
+    void Block(const std::string& reason);
+    void WriteThrough();
+    void TellTroubles();
+
+    std::string path_;
+    std::shared_ptr<FileLayer> layer_;
+    FileStamp stamp_;
+    // The present tree points into the text that was read last; the file may since have been
+    // written.
+    std::shared_ptr<const std::string> text_;
+    std::shared_ptr<const std::string> onDisk_;
+    std::string_view tail_;
+    // A file that could neither be parsed nor moved away: nothing is written over it.
+    bool isBlocked_ = false;
+    // Told when the lock is released: the handler may show a box and take its time.
+    std::vector<StoreTrouble> troubles_;
+    // What the handler was told last of a failed write, so that it is not told again at each flush.
+    std::string lastTrouble_;
+};
+
+}  // namespace kvopt
