@@ -21,12 +21,6 @@ enum ModalResult : int {
     kResultFinish = 12325,
 };
 
-/// One run of a data exchange: from the controls to the members (`save`) or back.
-struct CDataExchange {
-    CDialog& dialog;
-    bool save = false;
-};
-
 /// A dialog made from a template: owns its control models, routes their notifications, exchanges
 /// data with its members. A property page is one too. It has a window (its controls exist) from
 /// Create on; before, GetDlgItem gives null.
@@ -107,16 +101,5 @@ private:
 
     friend class Desktop;
 };
-
-/// Connects a pointer member with its control; null when the template has no such control.
-template <class T>
-void DDX_Control(CDataExchange& exchange, int number, T*& control) {
-    control = exchange.dialog.Item<T>(number);
-}
-KVOPT_EXPORT void DDX_Text(CDataExchange& exchange, int number, std::wstring& text);
-KVOPT_EXPORT void DDX_Check(CDataExchange& exchange, int number, bool& checked);
-/// `first` is the radio button that starts the group; `index` is zero-based, -1 without a mark.
-KVOPT_EXPORT void DDX_Radio(CDataExchange& exchange, int first, int& index);
-KVOPT_EXPORT void DDX_CBIndex(CDataExchange& exchange, int number, int& index);
 
 }  // namespace kvopt

@@ -1,31 +1,9 @@
 #pragma once
 
-#include <vector>
-
 #include "kvopt/export.h"
+#include "kvopt/platform/property_page_listener.h"
 
 namespace kvopt {
-
-class BasePropertyPageHelper;
-
-/// Listens to the updates of one helper. Neither owns the other; when either dies the other is
-/// told.
-class KVOPT_EXPORT PropertyPageListener {
-public:
-    virtual ~PropertyPageListener();
-    /// The helper is gone, or this listener was detached.
-    virtual void OnDisconnect();
-    virtual bool IsIgnoreListenerUpdates() const;
-    virtual void ListenerUpdate();
-
-    /// Attaches to a helper, leaving the one before; null only leaves.
-    void ConnectTo(BasePropertyPageHelper* helper);
-    BasePropertyPageHelper* ConnectedHelper() const { return helper_; }
-
-private:
-    friend class BasePropertyPageHelper;
-    BasePropertyPageHelper* helper_ = nullptr;
-};
 
 /// A page's link to what hosts the sheet, usually the plot that the sheet changes.
 class KVOPT_EXPORT BasePropertyPageHelper {

@@ -10,27 +10,11 @@
 #include "kvopt/platform/data_matrix.h"
 #include "kvopt/platform/field_matrix.h"
 #include "kvopt/platform/geometry.h"
+#include "kvopt/platform/vws_access.h"
 
 namespace kvopt {
 
 class VirtualWorksheet;
-
-/// What a worksheet asks when the user changed a cell.
-class KVOPT_EXPORT VWSInterFace_VWSAccess {
-public:
-    virtual ~VWSInterFace_VWSAccess();
-    /// True when the text was taken.
-    virtual bool UserChangedData(int column, int row, const char* text) = 0;
-};
-
-/// A rectangle of selected cells, both ends included; column and row 0 are headings.
-struct CellRange {
-    int firstColumn = 0;
-    int firstRow = 0;
-    int lastColumn = -1;
-    int lastRow = -1;
-    bool IsEmpty() const { return lastColumn < firstColumn || lastRow < firstRow; }
-};
 
 /// The content and the rules of one worksheet: texts, field definitions, sizes, and what mouse and
 /// edits do. Columns and rows count from 0, where column 0 holds the row numbers and row 0 the

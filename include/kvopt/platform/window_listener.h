@@ -1,0 +1,34 @@
+#pragma once
+
+#include "kvopt/export.h"
+
+namespace kvopt {
+
+class CWnd;
+
+/// What a window model tells its views about.
+enum class WindowChange {
+    Text,
+    Enabled,
+    Visible,
+    Check,
+    Items,       ///< entries of a list were added, removed or changed
+    Selection,   ///< the selected or marked entries changed
+    Range,       ///< limits of a spin control changed
+    Focus,       ///< the program moved the focus to this control
+    Cells,       ///< a worksheet must be read afresh
+    Buttons,     ///< the frame's buttons changed (Back, Next, Finish, OK, Apply)
+    ActivePage,  ///< a sheet brought another page up
+    Ended,       ///< a modal run was ended
+};
+
+/// A view of one window model. It holds no value of its own: it asks the model whenever it is told.
+class KVOPT_EXPORT WindowListener {
+public:
+    virtual ~WindowListener();
+    virtual void OnWindowChanged(CWnd& window, WindowChange change) = 0;
+    /// The model dies; the view must let go of it.
+    virtual void OnWindowGone(CWnd& window) = 0;
+};
+
+}  // namespace kvopt
