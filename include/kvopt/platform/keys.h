@@ -17,6 +17,9 @@ struct KeyStroke {
     bool operator==(const KeyStroke&) const = default;
 };
 
+inline constexpr int kKeyReturn = 0x0D;
+inline constexpr int kKeyEscape = 0x1B;
+inline constexpr int kKeyF1 = 0x70;
 inline constexpr int kKeyInsert = 0x2D;
 inline constexpr int kKeyDelete = 0x2E;
 

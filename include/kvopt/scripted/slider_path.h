@@ -23,8 +23,8 @@ KVOPT_EXPORT CPoint CellPixelAtShare(const BaseWorksheetInterface& content, CPoi
 /// The slider that a cell shows; none in a plain cell.
 KVOPT_EXPORT std::optional<CellSlider> SliderOfCell(const BaseWorksheetInterface& content,
                                                     CPoint cell);
-/// The pixel nearest to where a slider's thumb stands for a value; it may lie outside the cell for
-/// a value outside the limits.
+/// The pixel nearest to where a slider's thumb stands for a value, within the cell. The mouse maps
+/// in the cell's rectangle less one pixel at each side.
 KVOPT_EXPORT CPoint CellPixelOfValue(const BaseWorksheetInterface& content, CPoint cell,
                                      const CellSlider& slider, double value);
 

@@ -47,8 +47,9 @@ public:
 
     virtual bool SelectTab(CPropertySheet& sheet, int index) = 0;
     virtual bool Press(const StepScope& scope, FrameButton button) = 0;
-    /// A key stroke to the active page, then to the control with the focus.
-    virtual bool PressKey(CDialog& dialog, const KeyStroke& key) = 0;
+    /// A key stroke: to the active page first, then to the control with the focus, then to the
+    /// frame. False when nobody takes it.
+    virtual bool PressKey(const StepScope& scope, const KeyStroke& key) = 0;
 
     virtual bool SelectCells(VirtualWorksheet& worksheet, const CellRange& cells) = 0;
     /// Opens the cell's editor and types; `commit` ends with Return, else the editor stays open.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,7 +31,7 @@ public:
     StepPlayer& operator=(const StepPlayer&) = delete;
 
     /// Adds a script behind what is there to play.
-    void Add(UserScript script);
+    void Add(const UserScript& script);
 
     /// A modal run, from where it begins to where it ends. Runs nest; the innermost gets the steps.
     class KVOPT_EXPORT Run {
@@ -74,19 +76,17 @@ private:
     };
 
     void DropUnmetBoxes();
-    void CancelInnermost();
-    void Play(const UserStep& step);
-    void Check(const UserStep& step);
+    void CancelInnermost(const StepScope& scope);
     void FailAt(const QueuedStep& at, const std::string& reason);
 
     Desktop& desktop_;
     StepGestures& gestures_;
-    std::vector<QueuedStep> steps_;
+    std::deque<QueuedStep> steps_;
     std::size_t next_ = 0;
     std::vector<StepScope> runs_;
     std::vector<std::size_t> playing_;  ///< steps under way, the innermost last
     std::vector<std::string> faults_;
-    const UserStep* menuStep_ = nullptr;
+    std::optional<std::string> menuEntry_;  ///< what the present step wants of a menu
 };
 
 }  // namespace kvopt

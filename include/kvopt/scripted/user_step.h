@@ -116,7 +116,7 @@ struct UserStep {
     std::vector<std::string> values;  ///< the text, the entries, the caption, the page's title
     std::optional<double> number;     ///< value that Drag goes to
     std::optional<double> share;      ///< percent of the cell's width, of Drag and Hover
-    int count = 1;                    ///< clicks of Spin (negative: down); milliseconds of Wait
+    int count = 1;  ///< clicks of Spin (negative: down), milliseconds of Wait, page of ExpectPage
     KeyStroke key;
     ExpectedBox box;
     Cursor cursor = Cursor::Arrow;
