@@ -1,28 +1,441 @@
 #include "kvopt/stores/ini_file_section.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "kvopt/text.h"
 #include "stores/store_test_support.h"
+#include "text/german_process.h"
 
 namespace kvopt {
 namespace {
 
-TEST(IniFileSection, BringsAllTypesBackFromTheFile) {
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+// What the file holds after `write` had it open, and what a fresh look at it reads.
+class IniFileSectionTest : public testing::Test {
+protected:
+    std::unique_ptr<IniFileSection> Open(const std::string& section = "") const {
+        return IniFileFactory::Instance()->GetIniFile(file_, section);
+    }
+
+    const test::TemporaryFolder folder_;
+    const std::string file_ = folder_.File("study.ini");
+    test::TroubleRecorder recorder_;
+};
+
+TEST_F(IniFileSectionTest, WritesEachTypeAsReadableText) {
+    const test::GermanProcess german;
+    {
+        const auto section = Open("Options");
+        section->WriteKey("Bool", true);
+        section->WriteKey("Int", 1234567);
+        section->WriteKey("Double", 1234.5);
+        section->WriteKey("Small", 5e-324);
+        section->WriteKey("Text", "Öl; 5 µm");
+    }
+    EXPECT_EQ(test::Slurp(file_),
+              "[Options]\nBool=true\nInt=1234567\nDouble=1234.5\nSmall=5e-324\nText=Öl; 5 µm\n");
+    const auto section = Open("Options");
+    EXPECT_TRUE(section->ReadKeyOr("Bool", false));
+    EXPECT_EQ(section->ReadKeyOr("Bool", -1), 1);
+    EXPECT_EQ(section->ReadKeyOr("Int", 0), 1234567);
+    EXPECT_EQ(section->ReadKeyOr("Double", 0.0), 1234.5);
+    EXPECT_EQ(section->ReadKeyOr("Small", 0.0), 5e-324);
+    EXPECT_EQ(section->ReadKeyOr("Text", std::string()), "Öl; 5 µm");
+}
+
+TEST_F(IniFileSectionTest, BringsSpecialDoublesBack) {
+    const std::vector<double> values = {-0.0,
+                                        std::numeric_limits<double>::infinity(),
+                                        -std::numeric_limits<double>::infinity(),
+                                        std::numeric_limits<double>::denorm_min(),
+                                        std::numeric_limits<double>::max(),
+                                        0.1 + 0.2};
+    for (const double value : values) {
+        Open("A")->WriteKey("Value", value);
+        const double back = Open("A")->ReadKeyOr("Value", kNotSet);
+        EXPECT_EQ(back, value);
+        EXPECT_EQ(std::signbit(back), std::signbit(value));
+    }
+    Open("A")->WriteKey("Value", std::nan(""));
+    EXPECT_TRUE(std::isnan(Open("A")->ReadKeyOr("Value", kNotSet)));
+}
+
+TEST_F(IniFileSectionTest, ASectionNameSelectsThatSection) {
+    Open("A")->WriteKey("Key", 1);
+    Open("")->WriteKey("Key", 2);
+    EXPECT_EQ(test::Slurp(file_), "Key=2\n[A]\nKey=1\n");
+    const auto section = Open("A");
+    EXPECT_EQ(section->ReadKeyOr("Key", 0), 1);
+    section->SetSection("");
+    EXPECT_EQ(section->ReadKeyOr("Key", 0), 2);
+}
+
+TEST_F(IniFileSectionTest, ReadingNeverWrites) {
+    {
+        const auto section = Open("A");
+        EXPECT_EQ(section->ReadKeyOr("Key", 7), 7);
+        section->SetSection("B");
+        EXPECT_FALSE(section->HasSection("C", true));
+        section->Flush();
+    }
+    EXPECT_THAT(folder_.Names(), ElementsAre());
+    test::Spill(file_, "\xEF\xBB\xBF[A]\r\nKey = 1 ");
+    EXPECT_EQ(Open("A")->ReadKeyOr("Key", 7), 1);
+    EXPECT_EQ(test::Slurp(file_), "\xEF\xBB\xBF[A]\r\nKey = 1 ");
+    EXPECT_THAT(folder_.Names(), ElementsAre("study.ini"));
+}
+
+TEST_F(IniFileSectionTest, WritesThroughOnFlush) {
+    const auto section = Open("A");
+    section->WriteKey("Key", 1);
+    EXPECT_EQ(test::Slurp(file_), "");
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[A]\nKey=1\n");
+}
+
+TEST_F(IniFileSectionTest, WritesThroughWhenReleasedAlsoWhileOthersLive) {
+    const auto other = Open("B");
+    Open("A")->WriteKey("Key", 1);
+    EXPECT_EQ(test::Slurp(file_), "[A]\nKey=1\n");
+}
+
+TEST_F(IniFileSectionTest, SectionsOfOneFileShareOneStoreBeforeAnythingIsWritten) {
+    const auto one = Open("A");
+    const auto other = Open("A");
+    one->WriteKey("Key", 1);
+    EXPECT_EQ(other->ReadKeyOr("Key", 0), 1);
+    EXPECT_EQ(Open("A")->ReadKeyOr("Key", 0), 1);
+    EXPECT_EQ(test::Slurp(file_), "[A]\nKey=1\n") << "the third section was released";
+}
+
+TEST_F(IniFileSectionTest, KeepsCommentsOrderSpellingAndWhatItDoesNotKnow) {
+    const std::string before =
+        "; study of the 3rd run\n"
+        "\n"
+        "Top = 1\n"
+        "[Zeta]\r\n"
+        "# a remark\n"
+        "Later=2\n"
+        "  Unknown  =  kept as it is  \n"
+        "\n"
+        "; about Alpha\n"
+        "[Alpha]\n"
+        "Value=50 % of it\n"
+        "; the end";
+    test::Spill(file_, before);
+    {
+        const auto section = Open("Zeta");
+        EXPECT_EQ(section->ReadKeyOr("Unknown", std::string()), "kept as it is");
+        section->WriteKey("Later", 3);
+        section->WriteKey("New", true);
+        section->SetSection("Alpha");
+        EXPECT_EQ(section->ReadKeyOr("Value", std::string()), "50 % of it");
+        section->SetSection("Beta");
+        section->WriteKey("Key", "new");
+    }
+    EXPECT_EQ(test::Slurp(file_),
+              "; study of the 3rd run\n"
+              "\n"
+              "Top = 1\n"
+              "[Zeta]\r\n"
+              "# a remark\n"
+              "Later=3\n"
+              "  Unknown  =  kept as it is  \n"
+              "New=true\n"
+              "\n"
+              "; about Alpha\n"
+              "[Alpha]\n"
+              "Value=50 % of it\n"
+              "\n"
+              "[Beta]\n"
+              "Key=new\n"
+              "; the end\n");
+}
+
+TEST_F(IniFileSectionTest, ReadsWhatWasEditedByHand) {
+    test::Spill(file_,
+                "[ A ]\n"
+                "Percent=10 %\n"
+                "Escape=a%3db%zz%4\n"
+                "Equals=a=b\n"
+                "Sign=+1.5\n"
+                "Yes=true\n"
+                "=nameless\n"
+                "[A] [Child] \n"
+                "Key=1\n"
+                "[A;2]\n"
+                "Key=2\n"
+                "[]\n"
+                "Key=3\n");
+    const auto section = Open("A");
+    EXPECT_EQ(section->ReadKeyOr("Percent", std::string()), "10 %");
+    EXPECT_EQ(section->ReadKeyOr("Escape", std::string()), "a=b%zz%4");
+    EXPECT_EQ(section->ReadKeyOr("Equals", std::string()), "a=b");
+    EXPECT_EQ(section->ReadKeyOr("Sign", kNotSet), 1.5);
+    EXPECT_TRUE(section->ReadKeyOr("Yes", false));
+    EXPECT_EQ(section->ReadKeyOr("", std::string()), "nameless");
+    EXPECT_EQ(section->GetSection("Child")->ReadKeyOr("Key", 0), 1);
+    section->SetSection("");
+    EXPECT_EQ(section->GetIndexedSection("A", 2)->ReadKeyOr("Key", 0), 2);
+    EXPECT_EQ(section->GetSection("")->ReadKeyOr("Key", 0), 3);
+    EXPECT_TRUE(recorder_.troubles.empty());
+}
+
+TEST_F(IniFileSectionTest, OfADoubledKeyOrSectionTheLaterCountsAndNoLineIsLost) {
+    test::Spill(file_,
+                "[A]\n"
+                "; first\n"
+                "Key=1\n"
+                "Other=5\n"
+                "Key=2\n"
+                "[B]\n"
+                "Key=3\n"
+                "; A again\n"
+                "[A]\n"
+                "Key=4\n");
+    EXPECT_EQ(Open("A")->ReadKeyOr("Key", 0), 4);
+    Open("A")->WriteKey("Other", 6);
+    const std::string after = test::Slurp(file_);
+    EXPECT_EQ(after,
+              "[A]\n"
+              "; first\n"
+              "Key=1\n"
+              "; A again\n"
+              "Key=2\n"
+              "Key=4\n"
+              "Other=6\n"
+              "[B]\n"
+              "Key=3\n");
+    EXPECT_EQ(Open("A")->ReadKeyOr("Key", 0), 4);
+}
+
+TEST_F(IniFileSectionTest, ClearTakesTheKeysOfOneSectionAndKeepsItsComments) {
+    test::Spill(file_,
+                "Top=0\n"
+                "[A]\n"
+                "; about the key\n"
+                "Key=1\n"
+                "[A][Inside]\n"
+                "Key=2\n"
+                "[B]\n"
+                "Key=3\n");
+    {
+        const auto section = Open("A");
+        section->Clear();
+        section->WriteKey("New", 4);
+    }
+    EXPECT_EQ(test::Slurp(file_),
+              "Top=0\n"
+              "[A]\n"
+              "; about the key\n"
+              "New=4\n"
+              "[B]\n"
+              "Key=3\n");
+    Open("")->Clear();
+    EXPECT_EQ(test::Slurp(file_),
+              "[A]\n"
+              "; about the key\n"
+              "New=4\n"
+              "[B]\n"
+              "Key=3\n");
+}
+
+TEST_F(IniFileSectionTest, AnEmptySectionStaysInTheFileThroughLaterWrites) {
+    const auto section = Open("");
+    section->GetSection("Empty");
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[Empty]\n");
+    section->WriteKey("Key", 1);
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "Key=1\n\n[Empty]\n");
+    EXPECT_TRUE(Open("")->HasSection("Empty", true));
+}
+
+TEST_F(IniFileSectionTest, ASectionInsideAnotherNeedsNoHeaderOfTheOuterOne) {
+    Open("")->GetSection("A")->GetSection("B")->WriteKey("Key", 1);
+    EXPECT_EQ(test::Slurp(file_), "[A]\n\n[A][B]\nKey=1\n");
+    test::Spill(file_, "[C][D]\nKey=1\n");
+    Open("Z")->WriteKey("Key", 2);
+    EXPECT_EQ(test::Slurp(file_), "[C][D]\nKey=1\n\n[Z]\nKey=2\n");
+}
+
+TEST_F(IniFileSectionTest, EscapesOnlyWhatItMust) {
+    {
+        const auto section = Open("50% [a;b] #1 = \"c\\d\" ");
+        section->WriteKey(" µ\t", " 5;#[]=\"\\ 6\n7 % ");
+        section->WriteKey("", "");
+    }
+    EXPECT_EQ(test::Slurp(file_),
+              "[50%25 %5Ba%3Bb%5D %231 %3D %22c%5Cd%22%20]\n"
+              "%20µ%09=%205;#[]=\"\\ 6%0A7 %25%20\n"
+              "%=\n");
+}
+
+TEST_F(IniFileSectionTest, WritesNothingWhenTheFileHoldsItAlready) {
+    Open("A")->WriteKey("Key", 1);
+    const auto before = std::filesystem::last_write_time(file_);
+    struct stat first {};
+    ASSERT_EQ(::stat(file_.c_str(), &first), 0);
+    Open("A")->WriteKey("Key", 1);
+    struct stat second {};
+    ASSERT_EQ(::stat(file_.c_str(), &second), 0);
+    EXPECT_EQ(first.st_ino, second.st_ino);
+    EXPECT_EQ(std::filesystem::last_write_time(file_), before);
+}
+
+TEST_F(IniFileSectionTest, AValueThatReturnsToWhatWasReadIsWrittenToo) {
+    test::Spill(file_, "[A]\nKey=1\n");
+    const auto section = Open("A");
+    section->WriteKey("Key", 2);
+    section->Flush();
+    section->WriteKey("Key", 1);
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[A]\nKey=1\n");
+}
+
+TEST_F(IniFileSectionTest, SeesWhatAnotherProgramWroteWhenItIsOpenedAgain) {
+    const auto section = Open("A");
+    section->WriteKey("Mine", 1);
+    test::Spill(file_, "[A]\nTheirs=2\nMine=7\n");
+    EXPECT_EQ(section->ReadKeyOr("Theirs", 0), 0);
+    EXPECT_EQ(Open("A")->ReadKeyOr("Theirs", 0), 2);
+    EXPECT_EQ(section->ReadKeyOr("Theirs", 0), 2) << "all sections of the file share one store";
+    EXPECT_EQ(section->ReadKeyOr("Mine", 0), 1);
+    EXPECT_EQ(test::Slurp(file_), "[A]\nTheirs=2\nMine=1\n");
+}
+
+TEST_F(IniFileSectionTest, MergesItsChangesWithWhatTheFileHoldsByThen) {
+    test::Spill(file_, "[A]\nBoth=1\nMine=1\n[Cleared]\nOld=1\n[Cleared][Inside]\nOld=1\n");
+    const auto section = Open("A");
+    section->WriteKey("Mine", 2);
+    section->SetSection("Cleared");
+    section->Clear();
+    section->WriteKey("Mine", 3);
+    test::Spill(file_,
+                "; theirs\n[A]\nBoth=5\nMine=1\nTheirs=6\n[Cleared]\nOld=1\nTheirs=7\n"
+                "[Cleared][Inside]\nOld=1\n[Added]\nKey=8\n");
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_),
+              "; theirs\n[A]\nBoth=5\nMine=2\nTheirs=6\n[Cleared]\nMine=3\n[Added]\nKey=8\n");
+    section->SetSection("A");
+    EXPECT_EQ(section->ReadKeyOr("Both", 0), 5);
+}
+
+TEST_F(IniFileSectionTest, ReplaysRemovedAndNewSectionsOnWhatTheFileHoldsByThen) {
+    test::Spill(file_, "[Gone]\nKey=1\n[Gone;2]\nKey=1\n");
+    const auto section = Open("");
+    section->RemoveSections("Gone");
+    section->GetSection("Empty");
+    test::Spill(file_, "[Gone]\nKey=1\nMore=1\n[Gone;3]\nKey=1\n[Kept]\nKey=1\n");
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[Kept]\nKey=1\n\n[Empty]\n");
+}
+
+TEST_F(IniFileSectionTest, BringsBackOnlyItsOwnChangesWhenTheFileWasDeleted) {
+    Open("A")->WriteKey("Old", 1);
+    const auto section = Open("A");
+    section->WriteKey("New", 2);
+    std::filesystem::remove(file_);
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[A]\nNew=2\n");
+}
+
+TEST_F(IniFileSectionTest, WithoutAFileItKeepsEverythingInMemory) {
+    IniFileSection section;
+    section.SetSection("A");
+    section.WriteKey("Key", 1);
+    section.Flush();
+    EXPECT_EQ(section.ReadKeyOr("Key", 0), 1);
+    EXPECT_TRUE(recorder_.troubles.empty());
+}
+
+struct BadFile {
+    const char* label;
+    std::string content;
+    const char* place;
+    const char* expected;
+    const char* found;
+};
+
+class BadIniFile : public testing::TestWithParam<BadFile> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Stores, BadIniFile,
+    testing::Values(
+        BadFile{"NoEquals", "[A]\nKey=1\nno key\n", "line 3",
+                "a section, a key with \"=\" or a comment", "\"no key\""},
+        BadFile{"OpenHeader", "[A\n", "line 1", "\"[\", a name and \"]\"", "\"[A\""},
+        BadFile{"TextAfterHeader", "\n[A] ; x\n", "line 2", "\"[\", a name and \"]\"", "\"; x\""},
+        BadFile{"BadNumber", "[A;two]\n", "line 1", "a number from 1 up", "\"two\""},
+        BadFile{"ZeroNumber", "[A;0]\n", "line 1", "a number from 1 up", "\"0\""},
+        BadFile{"Nul", std::string("Key=1\nKey=\0\n", 12), "line 2", "text", "a NUL character"},
+        BadFile{"ControlInError", "\x01\x02\n", "line 1", "a section", "\"%01%02\""},
+        BadFile{"Long", std::string(100, 'x'), "line 1", "a section",
+                "\"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...\""}),
+    [](const testing::TestParamInfo<BadFile>& row) { return std::string(row.param.label); });
+
+TEST_P(BadIniFile, IsSetAsideAndTheHostIsTold) {
     const test::TemporaryFolder folder;
     const std::string file = folder.File("study.ini");
+    test::TroubleRecorder recorder;
+    test::Spill(file, GetParam().content);
     {
-        const auto section = IniFileFactory::Instance()->GetIniFile(file, "Options");
-        section->WriteKey("Bool", true);
-        section->WriteKey("Int", -7);
-        section->WriteKey("Double", 0.1);
-        section->WriteKey("Text", "Öl");
+        const auto section = IniFileFactory::Instance()->GetIniFile(file, "A");
+        ASSERT_NE(section, nullptr);
+        ASSERT_EQ(recorder.troubles.size(), 1U);
+        const StoreTrouble& trouble = recorder.troubles.front();
+        EXPECT_EQ(trouble.kind, StoreTrouble::Kind::SetAside);
+        EXPECT_EQ(trouble.file, std::filesystem::canonical(folder.Path()) / "study.ini");
+        EXPECT_EQ(trouble.movedTo, trouble.file + ".unreadable-1");
+        EXPECT_THAT(trouble.reason, HasSubstr(trouble.file + ": " + GetParam().place + ":"));
+        EXPECT_THAT(trouble.reason, HasSubstr(std::string("expected ") + GetParam().expected));
+        EXPECT_THAT(trouble.reason, HasSubstr(std::string(", found ") + GetParam().found));
+        EXPECT_EQ(section->ReadKeyOr("Key", 7), 7) << "work goes on from the defaults";
+        section->WriteKey("Key", 2);
     }
-    EXPECT_EQ(test::Slurp(file), "[Options]\nBool=true\nInt=-7\nDouble=0.1\nText=Öl\n");
-    const auto section = IniFileFactory::Instance()->GetIniFile(file, "Options");
-    EXPECT_TRUE(section->ReadKeyOr("Bool", false));
-    EXPECT_EQ(section->ReadKeyOr("Int", 0), -7);
-    EXPECT_EQ(section->ReadKeyOr("Double", 0.0), 0.1);
-    EXPECT_EQ(section->ReadKeyOr("Text", std::string()), "Öl");
+    EXPECT_EQ(recorder.troubles.size(), 1U);
+    EXPECT_EQ(test::Slurp(file), "[A]\nKey=2\n");
+    EXPECT_EQ(test::Slurp(file + ".unreadable-1"), GetParam().content);
+    EXPECT_THAT(folder.Names(), ElementsAre("study.ini", "study.ini.unreadable-1"));
+}
+
+TEST_F(IniFileSectionTest, SetsEachBadFileAsideUnderANameOfItsOwn) {
+    for (const char* content : {"first\n", "second\n"}) {
+        test::Spill(file_, content);
+        Open("A");
+    }
+    EXPECT_EQ(test::Slurp(file_ + ".unreadable-1"), "first\n");
+    EXPECT_EQ(test::Slurp(file_ + ".unreadable-2"), "second\n");
+}
+
+TEST_F(IniFileSectionTest, SetsAsideAFileThatWentBadWhileItWasOpenAndWritesItsChanges) {
+    const auto section = Open("A");
+    section->WriteKey("Key", 1);
+    test::Spill(file_, "gone bad\n");
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[A]\nKey=1\n");
+    EXPECT_EQ(test::Slurp(file_ + ".unreadable-1"), "gone bad\n");
+    ASSERT_EQ(recorder_.troubles.size(), 1U);
+    EXPECT_EQ(recorder_.troubles.front().kind, StoreTrouble::Kind::SetAside);
+}
+
+TEST_F(IniFileSectionTest, RefusesNamesBeyondAHundredLevels) {
+    std::string deep;
+    for (int i = 0; i < 101; ++i) {
+        deep += "[a]";
+    }
+    test::Spill(file_, deep + "\n");
+    Open("A");
+    ASSERT_EQ(recorder_.troubles.size(), 1U);
+    EXPECT_THAT(recorder_.troubles.front().reason, HasSubstr("at most 100 names"));
 }
 
 }  // namespace

@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <clocale>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <locale>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -71,42 +71,6 @@ public:
 
 private:
     StoreTroubleHandler former_;
-};
-
-/// A process that counts in German: decimal comma and dots between thousands, for the streams by
-/// facets of the test's own (no system locale is needed), and for the C library where the system
-/// has the locale.
-class GermanProcess {
-public:
-    GermanProcess()
-        : former_(std::locale::global(std::locale(
-              std::locale(std::locale::classic(), new GermanNumbers), new GermanMoney))) {
-        for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE"}) {
-            if (std::setlocale(LC_ALL, name) != nullptr) {
-                break;
-            }
-        }
-    }
-    GermanProcess(const GermanProcess&) = delete;
-    GermanProcess& operator=(const GermanProcess&) = delete;
-    ~GermanProcess() {
-        std::locale::global(former_);
-        std::setlocale(LC_ALL, "C");
-    }
-
-private:
-    struct GermanNumbers : std::numpunct<char> {
-        char do_decimal_point() const override { return ','; }
-        char do_thousands_sep() const override { return '.'; }
-        std::string do_grouping() const override { return "\3"; }
-    };
-    struct GermanMoney : std::numpunct<wchar_t> {
-        wchar_t do_decimal_point() const override { return L','; }
-        wchar_t do_thousands_sep() const override { return L'.'; }
-        std::string do_grouping() const override { return "\3"; }
-    };
-
-    std::locale former_;
 };
 
 /// Texts that some store somewhere has lost: each has to come back exactly as section, as key and
