@@ -75,6 +75,8 @@ public:
     const Investigation* GetInvestigation() const { return investigation_; }
     /// The name given to the constructor.
     std::string GetIniFile() const { return iniFile_; }
+    /// Whether settings can be written: false for a copy, and when the file could not be had.
+    bool HasIniFile() const { return iniSection_ != nullptr; }
 
     /// How many factors that may be plotted and are not held constant lie on none of the first
     /// `numAxes` axes.

@@ -10,6 +10,9 @@
 
 namespace kvopt {
 
+/// The name of the block entry among the factors of a blocked study.
+inline constexpr const char* kBlockFactorName = "$BlockV";
+
 /// The kind of a factor, its use, and its settings.
 class KVOPT_EXPORT FactorValue {
 public:

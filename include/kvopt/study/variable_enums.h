@@ -32,6 +32,11 @@ struct CEType {
         Discrete = 6,      ///< a number out of a list of levels, between which a model may go
         Covariate = 7,     ///< a number that is measured with the response
     };
+
+    /// Whether grids show the kind as a list of levels.
+    static constexpr bool IsList(EType type) {
+        return type == Multilevel || type == Qualitative || type == Discrete;
+    }
 };
 
 /// How the models of the study were fitted.
