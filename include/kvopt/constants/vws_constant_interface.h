@@ -91,7 +91,7 @@ private:
     const FactorClass* FactorOfRow(int row) const;
     bool IsBlockRandom() const;
     bool IsSliderClosed(const FactorClass& factor) const;
-    std::string ReportOnRow(int row, int askedRow, int column, const char* text) const;
+    std::string ReportOnRow(int row, int column, const char* text) const;
     bool CheckSum(int askedRow, int column, const char* text) const;
     void PushSliderCell(int column, int row);
 

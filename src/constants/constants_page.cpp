@@ -1,0 +1,88 @@
+#include "kvopt/constants/constants_page.h"
+
+#include <limits>
+
+#include "kvopt/platform.h"
+#include "kvopt/study.h"
+
+namespace kvopt {
+
+namespace {
+constexpr int kGrid = 6139;
+constexpr int kAcceleratorTable = 6359;
+
+int RowsFor(const Investigation& investigation) {
+    if (investigation.GetResponseManager()->GetCount(ResponseEx::External) < 1) {
+        return ResponseModelUtilities(&investigation)
+            .GetUsedCount(CEVar::AllFactors, std::numeric_limits<int>::max());
+    }
+    return investigation.GetVariables()->GetCount(CEVar::AllFactors);
+}
+
+}  // namespace
+
+ConstantsPage::ConstantsPage(const Investigation* investigation, const Arguments& arguments,
+                             unsigned templateNumber, BasePropertyPageHelper* helper, bool readOnly)
+    : KvPropertyPage(templateNumber, 0, helper, kNoHelp),
+      arguments_(arguments),
+      grid_(std::make_unique<VWSConstantInterface>(this, investigation, RowsFor(*investigation),
+                                                   arguments.chooser, arguments.constants,
+                                                   *arguments.axes, readOnly)),
+      accelerators_(AcceleratorTable::Find(kAcceleratorTable)) {}
+
+ConstantsPage::~ConstantsPage() = default;
+
+void ConstantsPage::GetMessageMap(MessageMap& map) {
+    KvPropertyPage::GetMessageMap(map);
+    map.OnChanged(kGrid, [this] { Changed(); });
+}
+
+bool ConstantsPage::OnInitDialog() {
+    KvPropertyPage::OnInitDialog();
+    VirtualWorksheet::CreateFromStatic(*this, kGrid, *grid_);
+    return true;
+}
+
+bool ConstantsPage::OnSetActive() {
+    grid_->UpdateInterface();
+    if (GetSheet() != nullptr && GetSheet()->IsWizard()) {
+        GetSheet()->SetWizardButtons(kWizardBack | kWizardFinish);
+    }
+    return KvPropertyPage::OnSetActive();
+}
+
+bool ConstantsPage::OnKillActive() {
+    const bool good = grid_->CheckInterfaceValues(-1, -1, nullptr);
+    if (good) {
+        grid_->SaveInterfaceValues();
+    }
+    return good;
+}
+
+bool ConstantsPage::OnApply() {
+    if (IsChanged()) {
+        if (!grid_->CheckInterfaceValues(-1, -1, nullptr)) {
+            return false;
+        }
+        grid_->SaveInterfaceValues();
+    }
+    return KvPropertyPage::OnApply();
+}
+
+void ConstantsPage::OnOK() {
+    KvPropertyPage::OnOK();
+    grid_->SetParent(nullptr);
+}
+
+int ConstantsPage::OnWizardBack() {
+    return arguments_.backPage;
+}
+
+bool ConstantsPage::PreTranslateMessage(const KeyStroke& key) {
+    if (accelerators_ != nullptr && accelerators_->Translate(grid_->Worksheet(), key)) {
+        return true;
+    }
+    return KvPropertyPage::PreTranslateMessage(key);
+}
+
+}  // namespace kvopt

@@ -1,0 +1,107 @@
+// Values from the constants to the grid and back.
+
+#include "constants_texts.h"
+#include "kvopt/constants/vws_constant_interface.h"
+#include "kvopt/study.h"
+#include "kvopt/text.h"
+
+namespace kvopt {
+
+namespace {
+
+std::string CellTextOf(double value) {
+    return value == kNotSet ? std::string() : KvString::FormatG(value);
+}
+
+}  // namespace
+
+FactorConstants::SettingType VWSConstantInterface::SetFactorConstantValue(
+    int column, int row, const std::string& factorName) {
+    const Variables& variables = *mInvestigation->GetVariables();
+    const FactorClass* factor = mInvestigation->GetVariables()->GetFactor(factorName);
+    const bool qualitative = variables.GetType(factorName) == CEType::Qualitative;
+    std::string text;
+    FactorConstants::SettingType setting = FactorConstants::REF;
+
+    if (FactorConstants::IsMember(mConstants, factorName)) {
+        FactorConstants::Constant& entry =
+            mConstants[FactorConstants::Lookup(mConstants, factorName)];
+        text = qualitative ? entry.QualValue() : CellTextOf(entry.FloatValue());
+        entry.SettingPos() = FactorConstants::WhichSetting(variables, factor, text.c_str());
+        setting = entry.SettingPos();
+    } else {
+        FactorConstants::CenterValue(variables, factor, FactorConstants::REF, text);
+        if (qualitative) {
+            if (factorName == kBlockFactorName && IsBlockRandom()) {
+                text = texts::kConstantsRandomBlock.Text();
+            }
+            FactorConstants::Add(mConstants, {factorName, text, FactorConstants::REF});
+        } else {
+            float value = kNotSetF;
+            KvString::ToFloat(text, value);
+            if (value == kNotSetF) {
+                text.clear();
+            }
+            FactorConstants::Add(mConstants,
+                                 {factorName, static_cast<double>(value), FactorConstants::REF});
+        }
+    }
+    SetCellValue(column, row, text);
+    return setting;
+}
+
+void VWSConstantInterface::GetFactorConstantValue(int column, int row,
+                                                  const std::string& factorName) {
+    const std::string text = GetCellText(column, row);
+    const Variables& variables = *mInvestigation->GetVariables();
+    const FactorClass* factor = mInvestigation->GetVariables()->GetFactor(factorName);
+    if (text.empty() || factor == nullptr) {
+        return;
+    }
+    const FactorConstants::SettingType setting =
+        FactorConstants::WhichSetting(variables, factor, text.c_str());
+    FactorConstants::Constant constant;
+    if (variables.GetType(factorName) == CEType::Qualitative) {
+        constant = FactorConstants::Constant(factorName, text, setting);
+    } else {
+        float value = kNotSetF;
+        KvString::ToFloat(text, value);
+        constant = FactorConstants::Constant(factorName, static_cast<double>(value), setting);
+    }
+    if (FactorConstants::IsMember(mConstants, factorName)) {
+        mConstants[FactorConstants::Lookup(mConstants, factorName)] = constant;
+    } else {
+        FactorConstants::Add(mConstants, constant);
+    }
+}
+
+void VWSConstantInterface::SaveInterfaceValues() {
+    SaveInterfaceValues(1, RowCount(), 1, 2);
+}
+
+void VWSConstantInterface::SaveInterfaceValues(int firstRow, int lastRow, int keyColumn,
+                                               int valueColumn) {
+    for (int row = firstRow; row <= lastRow; ++row) {
+        const std::string name = GetCellText(keyColumn, row);
+        if (!name.empty()) {
+            GetFactorConstantValue(valueColumn, row, name);
+        }
+    }
+}
+
+void VWSConstantInterface::GetConstantValue(int firstRow, int lastRow, int keyColumn,
+                                            int valueColumn, const std::string& key,
+                                            std::string& value) const {
+    for (int row = firstRow; row <= lastRow; ++row) {
+        if (GetCellText(keyColumn, row) == key) {
+            value = GetCellText(valueColumn, row);
+            return;
+        }
+    }
+}
+
+void VWSConstantInterface::GetConstantValue(const std::string& key, std::string& value) const {
+    GetConstantValue(1, RowCount(), 1, 2, key, value);
+}
+
+}  // namespace kvopt
