@@ -1,0 +1,16 @@
+#pragma once
+
+/// \file
+/// Texts of the pages that choose responses and other items.
+
+#include "kvopt/text/literal.h"
+
+namespace kvopt::texts {
+
+inline constexpr FormatText<1> kSelectTitle{"Select %s"};
+inline constexpr FormatText<1> kSelectHeading{"Select the %s you want to display."};
+inline constexpr FormatText<1> kAvailableLabel{"Available %s:"};
+inline constexpr FormatText<1> kSelectedLabel{"Selected %s:"};
+inline constexpr FormatText<1> kNothingSelected{"No %s are selected. Please select at least one."};
+
+}  // namespace kvopt::texts
