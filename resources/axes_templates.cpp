@@ -1,0 +1,9 @@
+#include "axes_templates.h"
+
+namespace kvopt {
+
+std::vector<DialogTemplate> AxesTemplates() {
+    return {};
+}
+
+}  // namespace kvopt
