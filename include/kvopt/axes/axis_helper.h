@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -69,6 +70,7 @@ protected:
     static AxisPage::Arguments ArgumentsOf(WizardPlotData& data, int set, int numAxes);
 
 private:
+    bool TakeDefault(int axis, std::set<std::string>& taken);
     void TakeArguments(const AxisPage::Arguments& arguments);
     void ResizeLists(int count);
     bool HasList(int axis) const;

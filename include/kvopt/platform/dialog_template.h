@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <vector>
 
 #include "kvopt/export.h"
@@ -49,7 +48,7 @@ enum class LayoutKind {
 };
 
 /// A node of a dialog's layout. The controls' order, depth first, is the tab order.
-struct KVOPT_EXPORT LayoutItem {
+struct LayoutItem {
     LayoutKind kind = LayoutKind::Space;
     ControlTemplate control;
     const char* title = "";
@@ -71,7 +70,7 @@ struct KVOPT_EXPORT LayoutItem {
 
 /// A dialog as data: both the control models of the core and the widgets of a front end are made
 /// from it.
-struct KVOPT_EXPORT DialogTemplate {
+struct DialogTemplate {
     int number = 0;
     const char* caption = "";
     LayoutItem layout;
@@ -100,8 +99,6 @@ KVOPT_EXPORT LayoutItem Check(int number, const char* label);
 KVOPT_EXPORT LayoutItem Radio(int number, const char* label);
 KVOPT_EXPORT LayoutItem Spin(int number, int buddy);
 KVOPT_EXPORT LayoutItem Worksheet(int number);
-KVOPT_EXPORT LayoutItem PropertyGrid(int number, const char* label);
-KVOPT_EXPORT LayoutItem Markup(int number, const char* label);
 
 }  // namespace layout
 
@@ -110,7 +107,7 @@ class KVOPT_EXPORT TemplateCatalog {
 public:
     static TemplateCatalog& Instance();
 
-    /// Null when there is none of this number. Stays valid as long as the process.
+    /// Null when there is none of this number.
     const DialogTemplate* Find(int number) const;
     /// Sorted by number.
     std::vector<const DialogTemplate*> All() const;
@@ -119,7 +116,7 @@ public:
 
 private:
     TemplateCatalog();
-    std::map<int, DialogTemplate> templates_;
+    std::vector<DialogTemplate> added_;
 };
 
 }  // namespace kvopt

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "kvopt/export.h"
-#include "kvopt/platform/control.h"
+#include "kvopt/platform/controls.h"
 
 namespace kvopt {
 

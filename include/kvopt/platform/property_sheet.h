@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -29,32 +28,26 @@ public:
     void SetHasApply(bool hasApply) { hasApply_ = hasApply; }
     bool HasApply() const { return hasApply_; }
 
-    /// Throws InvalidArgument for null, for a page that stands in a sheet already, and during a
-    /// run.
     void AddPage(CPropertyPage* page);
     int GetPageCount() const { return static_cast<int>(pages_.size()); }
     /// Zero-based.
     CPropertyPage* GetPage(int index) const;
     /// Zero-based; -1 for a page that is not in the sheet.
     int GetPageIndex(const CPropertyPage* page) const;
-    /// When the sheet is not running, the page to start with; null without pages.
     CPropertyPage* GetActivePage() const;
-    /// Zero-based; -1 without pages.
-    int GetActiveIndex() const;
+    int GetActiveIndex() const { return active_; }
 
     /// Before the run: the page to start with. During it: a whole change of page, at once
     /// (OnKillActive of the old one, which may keep it, then OnSetActive of the new one). Nothing
-    /// happens for the page that is active already. True when the page is active afterwards; always
-    /// false for a page that is not in the sheet.
+    /// happens for the page that is active already. True when the page is active afterwards.
     bool SetActivePage(CPropertyPage* page);
 
-    /// Posted: takes effect after the present step. Bits of WizardButton; the last call wins. A
-    /// sheet that is no wizard has no such buttons: nothing happens.
+    /// Posted: takes effect after the present step. Bits of WizardButton; the last call wins.
     virtual void SetWizardButtons(unsigned long buttons);
     unsigned long WizardButtons() const { return buttons_; }
 
     /// Runs the sheet through the desktop: the finish code, OK, Cancel, or what EndDialog was
-    /// given. Throws InvalidArgument without pages and while the sheet is running.
+    /// given.
     int DoModal();
     void EndDialog(int result);
     bool HasEnded() const { return ended_; }
@@ -88,16 +81,12 @@ private:
 
     void BeginRun();
     void EndRun();
-    void RemovePage(CPropertyPage* page);
-    bool ChangePage(int index);
-    void BringUp(int index, int direction);
+    bool ChangePage(int index, bool killOld);
     bool Leave();
-    void FollowWizardStep(int asked, int answer, int neighbour);
+    void BringUp(int index);
     int IndexOfTemplate(int number) const;
     void ApplyButtons(unsigned long buttons);
-    void ApplyDefaultButtons();
-    bool IsReachable() const;
-    bool Press(bool offered, const std::function<void()>& step);
+    void UserLeavesControls();
 
     std::vector<CPropertyPage*> pages_;
     int active_ = -1;
@@ -108,7 +97,6 @@ private:
     bool ended_ = false;
     int result_ = 2;
     unsigned long buttons_ = 0;
-    bool buttonsSet_ = false;
 };
 
 }  // namespace kvopt

@@ -1,9 +1,0 @@
-#include "worksheetplots_templates.h"
-
-namespace kvopt {
-
-std::vector<DialogTemplate> WorksheetPlotsTemplates() {
-    return {};
-}
-
-}  // namespace kvopt

@@ -1,7 +1,0 @@
-#include "kvopt/platform/cell_canvas.h"
-
-namespace kvopt {
-
-CellCanvas::~CellCanvas() = default;
-
-}  // namespace kvopt
