@@ -7,10 +7,9 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
-#include <chrono>
 #include <filesystem>
 #include <system_error>
-#include <thread>
+#include <utility>
 
 #include "kvopt/text/exceptions.h"
 
@@ -38,11 +37,8 @@ public:
     }
 
     int Get() const { return file_; }
-    int Close() {
-        const int file = file_;
-        file_ = -1;
-        return layer_.Close(file);
-    }
+    int Release() { return std::exchange(file_, -1); }
+    int Close() { return layer_.Close(Release()); }
 
 private:
     FileLayer& layer_;
@@ -205,37 +201,32 @@ std::string SetFileAside(FileLayer& layer, const std::string& path) {
 
 FileLock::FileLock(std::shared_ptr<FileLayer> layer, const std::string& path)
     : layer_(std::move(layer)) {
-    constexpr auto kLongestWait = std::chrono::seconds(10);
-    constexpr auto kPause = std::chrono::milliseconds(1);
-    const auto end = std::chrono::steady_clock::now() + kLongestWait;
+    constexpr int kLongestWait = 10000;
+    int pauses = 0;
     while (true) {
-        file_ = layer_->Open(path, O_RDWR | O_CREAT, kNewFileMode);
-        if (file_ < 0) {
+        OpenFile file(*layer_, layer_->Open(path, O_RDWR | O_CREAT, kNewFileMode));
+        if (file.Get() < 0) {
             Fail(path, "cannot be opened for writing");
         }
-        int locked = layer_->TryLock(file_);
-        while (locked != 0 && (errno == EWOULDBLOCK || errno == EINTR) &&
-               std::chrono::steady_clock::now() < end) {
-            std::this_thread::sleep_for(kPause);
-            locked = layer_->TryLock(file_);
-        }
-        struct stat mine {};
-        struct stat present {};
-        if (locked == 0 && layer_->StatusOfFile(file_, mine) == 0) {
-            // The writer that was waited for has put a new file under the name; then the lock
-            // held is that of the old one.
-            if (layer_->Status(path, present) == 0 && present.st_ino == mine.st_ino &&
-                present.st_dev == mine.st_dev) {
-                return;
+        while (layer_->TryLock(file.Get()) != 0) {
+            if ((errno != EWOULDBLOCK && errno != EINTR) || ++pauses > kLongestWait) {
+                Fail(path, "cannot be locked");
             }
+            layer_->Pause();
         }
-        const int error = errno;
-        layer_->Close(file_);
-        if (locked != 0) {
-            errno = error;
+        // The writer that was waited for may have put a new file under the name; then the lock held
+        // is that of the old one.
+        struct stat locked {};
+        struct stat present {};
+        if (layer_->StatusOfFile(file.Get(), locked) != 0) {
             Fail(path, "cannot be locked");
         }
-        if (std::chrono::steady_clock::now() >= end) {
+        if (layer_->Status(path, present) == 0 && present.st_ino == locked.st_ino &&
+            present.st_dev == locked.st_dev) {
+            file_ = file.Release();
+            return;
+        }
+        if (++pauses > kLongestWait) {
             errno = EWOULDBLOCK;
             Fail(path, "cannot be locked");
         }

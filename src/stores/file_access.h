@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "kvopt/export.h"
 #include "stores/file_layer.h"
 
 /// \file
@@ -35,14 +34,13 @@ std::string ResolvePath(const std::string& fileName);
 FileStamp StampOf(FileLayer& layer, const std::string& path);
 
 /// The content, and its stamp where one is wanted; false when there is no such file.
-KVOPT_EXPORT bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& content,
-                                FileStamp* stamp = nullptr);
+bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& content,
+                   FileStamp* stamp = nullptr);
 
 /// Writes a temporary file in the same folder, flushes it to disk, renames it over the old file,
 /// whose mode it takes on, and flushes the folder. The path must be a resolved one. Gives the stamp
 /// of the new file.
-KVOPT_EXPORT FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path,
-                                           std::string_view content);
+FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path, std::string_view content);
 
 /// Moves a file to the first free of the names "FILE.unreadable-1", "-2", ... and gives the new
 /// name.

@@ -5,7 +5,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
+#include <thread>
 
 namespace kvopt {
 
@@ -50,6 +52,10 @@ int FileLayer::Status(const std::string& path, struct stat& status) {
 
 int FileLayer::TryLock(int file) {
     return ::flock(file, LOCK_EX | LOCK_NB);
+}
+
+void FileLayer::Pause() {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
 int FileLayer::Rename(const std::string& from, const std::string& to) {

@@ -34,6 +34,8 @@ public:
     virtual int Status(const std::string& path, struct stat& status);
     /// Takes the exclusive lock on an open file without waiting.
     virtual int TryLock(int file);
+    /// Waits a millisecond for whoever holds the lock.
+    virtual void Pause();
     virtual int Rename(const std::string& from, const std::string& to);
     /// As Rename(), but fails with EEXIST where there is something under the new name.
     virtual int RenameToNew(const std::string& from, const std::string& to);

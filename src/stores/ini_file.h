@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "kvopt/export.h"
 #include "kvopt/stores/store_trouble.h"
 #include "stores/file_access.h"
 #include "stores/section_store.h"
@@ -15,7 +14,7 @@ namespace kvopt {
 /// An ini file in memory. Reads the file whole; writes the changes made since into whatever the
 /// file holds by then, under the file's lock, so that two processes lose nothing of each other's.
 /// Released with changes, it writes them.
-class KVOPT_EXPORT IniFile : public SectionStore {
+class IniFile : public SectionStore {
 public:
     /// Without a file.
     IniFile();

@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "kvopt/export.h"
 #include "stores/section_node.h"
 
 namespace kvopt::ini {

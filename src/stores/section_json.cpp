@@ -310,7 +310,7 @@ public:
         return true;
     }
 
-    bool parse_error(std::size_t position, const std::string& token,
+    bool parse_error(std::size_t position, const std::string& /*token*/,
                      const nlohmann::json::exception& error) {
         const std::string_view before =
             text_.substr(0, std::min(position > 0 ? position - 1 : 0, text_.size()));
@@ -326,7 +326,8 @@ public:
             fileName_, place,
             isKnown ? std::string(what.substr(expected + std::string_view("expected ").size()))
                     : std::string("JSON"),
-            token.empty() ? std::string("the end of the file") : "\"" + Printable(token) + "\"");
+            before.size() == text_.size() ? "the end of the file"
+                                          : Quoted(text_.substr(before.size())));
     }
 
 private:

@@ -27,6 +27,12 @@ bool IsTouched(const SectionNode& section) {
                        [](const auto& child) { return IsTouched(*child); });
 }
 
+void CheckDepth(std::size_t depth) {
+    if (depth > kDeepestSection) {
+        throw InvalidArgument("ConfigurationSection: too many sections inside each other");
+    }
+}
+
 void ForgetChangesIn(SectionNode& section) {
     section.hasHeader = section.hasHeader || section.isNew;
     section.isNew = false;
@@ -67,9 +73,10 @@ SectionNode* SectionStore::Find(const SectionPath& path) const {
 }
 
 SectionNode& SectionStore::Open(const SectionPath& path) {
+    CheckDepth(path.size());
     SectionNode* node = root_.get();
     for (const SectionStep& step : path) {
-        node = &OpenChild(*node, step.name, step.number);
+        node = &node->OpenChild(step.name, step.number);
     }
     return *node;
 }
@@ -78,10 +85,7 @@ SectionNode& SectionStore::OpenChild(SectionNode& parent, std::string_view name,
     if (SectionNode* child = parent.FindChild(name, number)) {
         return *child;
     }
-    if (PathOf(parent).size() >= kDeepestSection) {
-        throw InvalidArgument(
-            "ConfigurationSection::GetSection: too many sections inside each other");
-    }
+    CheckDepth(PathOf(parent).size() + 1);
     SectionNode& child = parent.OpenChild(name, number);
     child.isNew = true;
     hasChanges_ = true;

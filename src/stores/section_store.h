@@ -29,7 +29,10 @@ public:
     unsigned Generation() const { return generation_; }
 
     SectionNode* Find(const SectionPath& path) const;
+    /// The section of this path, made where it is not there for something to be written into it.
     SectionNode& Open(const SectionPath& path);
+    /// The child of this name and number, made to stand in the store also when nothing is written
+    /// into it.
     SectionNode& OpenChild(SectionNode& parent, std::string_view name, int number);
     void Write(SectionNode& section, std::string_view key, KeyType type, std::string text);
     void Clear(SectionNode& section);

@@ -1,0 +1,246 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <csignal>
+#include <memory>
+#include <string>
+
+#include "stores/file_layer_test_support.h"
+#include "stores/store_test_support.h"
+
+namespace kvopt {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr const char* kOld = "[A]\nKey=1\n";
+constexpr const char* kNew = "[A]\nKey=2\n";
+
+std::shared_ptr<test::AskingLayer> LayerThatRefuses(const std::string& operation, int error) {
+    return std::make_shared<test::AskingLayer>([operation, error](const std::string& asked, int) {
+        return asked == operation ? error : 0;
+    });
+}
+
+class IniFileFaults : public testing::Test {
+protected:
+    IniFileFaults() { test::Spill(file_, kOld); }
+
+    const test::TemporaryFolder folder_;
+    const std::string file_ = folder_.File("study.ini");
+    test::TroubleRecorder recorder_;
+};
+
+struct Fault {
+    const char* operation;
+    int error;
+};
+
+class WriteFault : public testing::TestWithParam<Fault> {};
+
+INSTANTIATE_TEST_SUITE_P(Stores, WriteFault,
+                         testing::Values(Fault{"Write", ENOSPC}, Fault{"Write", EIO},
+                                         Fault{"Sync", EIO}, Fault{"ChangeMode", EPERM},
+                                         Fault{"Rename", EACCES}, Fault{"TryLock", ENOLCK},
+                                         Fault{"TryLock", EWOULDBLOCK}, Fault{"Open", EACCES},
+                                         Fault{"Open", EROFS}, Fault{"StatusOfFile", EIO}),
+                         [](const testing::TestParamInfo<Fault>& row) {
+                             return std::string(row.param.operation) +
+                                    std::to_string(row.param.error);
+                         });
+
+TEST_P(WriteFault, LeavesTheOldFileTellsTheHostOnceAndKeepsTheChanges) {
+    const test::TemporaryFolder folder;
+    const std::string file = folder.File("study.ini");
+    test::Spill(file, kOld);
+    test::TroubleRecorder recorder;
+    bool isFaulty = false;
+    const auto layer = std::make_shared<test::AskingLayer>([&](const std::string& operation, int) {
+        return isFaulty && operation == GetParam().operation ? GetParam().error : 0;
+    });
+    IniFileFactory factory(layer);
+    const auto section = factory.GetIniFile(file, "A");
+    section->WriteKey("Key", 2);
+    isFaulty = true;
+    section->Flush();
+    section->Flush();
+    ASSERT_EQ(recorder.troubles.size(), 1U) << "the same trouble is told once";
+    EXPECT_EQ(recorder.troubles.front().kind, StoreTrouble::Kind::NotWritten);
+    EXPECT_THAT(recorder.troubles.front().file, HasSubstr("study.ini"));
+    EXPECT_THAT(recorder.troubles.front().reason,
+                HasSubstr(std::generic_category().message(GetParam().error)));
+    EXPECT_EQ(test::Slurp(file), kOld);
+    EXPECT_THAT(folder.Names(), ElementsAre("study.ini"));
+    EXPECT_EQ(section->ReadKeyOr("Key", 0), 2);
+    isFaulty = false;
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file), kNew);
+    EXPECT_EQ(recorder.troubles.size(), 1U);
+    isFaulty = true;
+    section->WriteKey("Key", 3);
+    section->Flush();
+    EXPECT_EQ(recorder.troubles.size(), 2U) << "told again after a write that went well";
+    isFaulty = false;
+}
+
+TEST_F(IniFileFaults, AnyCallMayFailAndTheFileIsOldOrNew) {
+    int call = 0;
+    bool isWhole = false;
+    while (!isWhole) {
+        ++call;
+        test::Spill(file_, kOld);
+        const auto layer = std::make_shared<test::AskingLayer>(
+            [call](const std::string&, int number) { return number == call ? EIO : 0; });
+        {
+            IniFileFactory factory(layer);
+            const auto section = factory.GetIniFile(file_, "A");
+            if (section != nullptr) {
+                section->WriteKey("Key", 2);
+                section->Flush();
+                const std::string content = test::Slurp(file_);
+                EXPECT_TRUE(content == kOld || content == kNew) << call << ": " << content;
+            }
+            isWhole = layer->calls < call;
+        }
+        const std::string content = test::Slurp(file_);
+        EXPECT_TRUE(content == kOld || content == kNew) << call << ": " << content;
+        EXPECT_THAT(folder_.Names(), ElementsAre("study.ini")) << call;
+    }
+    EXPECT_GT(call, 15);
+    EXPECT_EQ(test::Slurp(file_), kNew);
+}
+
+TEST_F(IniFileFaults, AKillBeforeAnyCallLeavesTheOldFileOrTheNewOne) {
+    int call = 0;
+    int status = 1;
+    bool sawOldWithTemporary = false;
+    while (status != 0) {
+        ++call;
+        test::Spill(file_, kOld);
+        status = test::RunInProcess([&] {
+            const auto layer =
+                std::make_shared<test::AskingLayer>([call](const std::string&, int number) {
+                    if (number == call) {
+                        ::kill(::getpid(), SIGKILL);
+                    }
+                    return 0;
+                });
+            IniFileFactory factory(layer);
+            factory.GetIniFile(file_, "A")->WriteKey("Key", 2);
+        });
+        const std::string content = test::Slurp(file_);
+        EXPECT_TRUE(content == kOld || content == kNew) << call << ": " << content;
+        sawOldWithTemporary =
+            sawOldWithTemporary || (content == kOld && folder_.Names().size() > 1);
+        // The next process gets the lock, reads and writes, whatever was left behind.
+        IniFileFactory().GetIniFile(file_, "A")->WriteKey("Key", 3);
+        EXPECT_EQ(test::Slurp(file_), "[A]\nKey=3\n");
+    }
+    EXPECT_GT(call, 15);
+    EXPECT_TRUE(sawOldWithTemporary) << "one kill fell between the temporary file and the rename";
+    EXPECT_TRUE(recorder_.troubles.empty());
+}
+
+TEST_F(IniFileFaults, ShortWritesAndInterruptedCallsAreCarriedOn) {
+    class SlowLayer : public FileLayer {
+    public:
+        ssize_t Read(int file, char* buffer, std::size_t) override {
+            return Interrupted() ? -1 : FileLayer::Read(file, buffer, 1);
+        }
+        ssize_t Write(int file, const char* buffer, std::size_t) override {
+            return Interrupted() ? -1 : FileLayer::Write(file, buffer, 1);
+        }
+        int TryLock(int file) override { return Interrupted() ? -1 : FileLayer::TryLock(file); }
+
+    private:
+        bool Interrupted() {
+            errno = EINTR;
+            return ++calls_ % 2 == 1;
+        }
+        int calls_ = 0;
+    };
+    IniFileFactory factory(std::make_shared<SlowLayer>());
+    EXPECT_EQ(factory.GetIniFile(file_, "A")->ReadKeyOr("Key", 0), 1);
+    factory.GetIniFile(file_, "A")->WriteKey("Key", 2);
+    EXPECT_EQ(test::Slurp(file_), kNew);
+    EXPECT_TRUE(recorder_.troubles.empty());
+}
+
+TEST_F(IniFileFaults, ABadFileThatCannotBeMovedIsNeverWrittenOver) {
+    test::Spill(file_, "not an ini file\n");
+    IniFileFactory factory(LayerThatRefuses("RenameToNew", EACCES));
+    {
+        const auto section = factory.GetIniFile(file_, "A");
+        ASSERT_NE(section, nullptr);
+        ASSERT_EQ(recorder_.troubles.size(), 1U);
+        EXPECT_EQ(recorder_.troubles.front().kind, StoreTrouble::Kind::SetAside);
+        EXPECT_EQ(recorder_.troubles.front().movedTo, "");
+        EXPECT_THAT(recorder_.troubles.front().reason, HasSubstr("line 1"));
+        EXPECT_THAT(recorder_.troubles.front().reason, HasSubstr("cannot be set aside"));
+        section->WriteKey("Key", 2);
+        section->Flush();
+        ASSERT_EQ(recorder_.troubles.size(), 2U);
+        EXPECT_EQ(recorder_.troubles.back().kind, StoreTrouble::Kind::NotWritten);
+        EXPECT_EQ(test::Slurp(file_), "not an ini file\n");
+        EXPECT_EQ(section->ReadKeyOr("Key", 0), 2);
+        // The analyst repairs the file; the changes then go in.
+        test::Spill(file_, "[A]\nRepaired=1\n");
+    }
+    EXPECT_EQ(test::Slurp(file_), "[A]\nRepaired=1\nKey=2\n");
+}
+
+TEST_F(IniFileFaults, ABadFileThatCannotBeLockedIsLeftAndWorkGoesOn) {
+    test::Spill(file_, "not an ini file\n");
+    IniFileFactory factory(LayerThatRefuses("TryLock", ENOLCK));
+    const auto section = factory.GetIniFile(file_, "A");
+    ASSERT_NE(section, nullptr);
+    ASSERT_EQ(recorder_.troubles.size(), 1U);
+    EXPECT_EQ(recorder_.troubles.front().kind, StoreTrouble::Kind::SetAside);
+    EXPECT_EQ(recorder_.troubles.front().movedTo, "");
+    EXPECT_EQ(test::Slurp(file_), "not an ini file\n");
+}
+
+TEST_F(IniFileFaults, AFileThatCannotBeReadGivesNoSectionAndIsTold) {
+    IniFileFactory factory(LayerThatRefuses("Open", EACCES));
+    EXPECT_EQ(factory.GetIniFile(file_, "A"), nullptr);
+    ASSERT_EQ(recorder_.troubles.size(), 1U);
+    EXPECT_EQ(recorder_.troubles.front().kind, StoreTrouble::Kind::NotRead);
+    EXPECT_EQ(IniFileFactory().GetIniFile(folder_.Path(), "A"), nullptr) << "a folder";
+    EXPECT_EQ(recorder_.troubles.size(), 2U);
+}
+
+TEST_F(IniFileFaults, KeepsTheModeOfTheFile) {
+    ASSERT_EQ(::chmod(file_.c_str(), 0640), 0);
+    IniFileFactory().GetIniFile(file_, "A")->WriteKey("Key", 2);
+    struct stat status {};
+    ASSERT_EQ(::stat(file_.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+    const mode_t former = ::umask(027);
+    IniFileFactory().GetIniFile(folder_.File("new.ini"), "A")->WriteKey("Key", 2);
+    ::umask(former);
+    ASSERT_EQ(::stat(folder_.File("new.ini").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+}
+
+TEST_F(IniFileFaults, FollowsSymbolicLinksAlsoToAFileThatIsNotThereYet) {
+    std::filesystem::create_directory(folder_.File("elsewhere"));
+    std::filesystem::create_symlink("study.ini", folder_.File("link.ini"));
+    std::filesystem::create_symlink("elsewhere/new.ini", folder_.File("dangling.ini"));
+    IniFileFactory().GetIniFile(folder_.File("link.ini"), "A")->WriteKey("Key", 2);
+    IniFileFactory().GetIniFile(folder_.File("dangling.ini"), "A")->WriteKey("Key", 2);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder_.File("link.ini")));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder_.File("dangling.ini")));
+    EXPECT_EQ(test::Slurp(file_), kNew);
+    EXPECT_EQ(test::Slurp(folder_.File("elsewhere/new.ini")), kNew);
+}
+
+TEST_F(IniFileFaults, WritesAFileWhoseNameIsAsLongAsTheSystemAllows) {
+    const std::string file = folder_.File(std::string(255, 'n'));
+    IniFileFactory().GetIniFile(file, "A")->WriteKey("Key", 2);
+    EXPECT_EQ(test::Slurp(file), kNew);
+}
+
+}  // namespace
+}  // namespace kvopt
