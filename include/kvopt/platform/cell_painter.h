@@ -27,6 +27,10 @@ public:
     void DrawLimit(float value, Colour colour) const;
 
 private:
+    float FreeLeft() const;
+    float FreeWidth() const;
+    int Column(float value) const;
+
     CellCanvas* canvas_;
     float low_;
     float high_;

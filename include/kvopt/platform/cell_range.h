@@ -8,6 +8,7 @@ struct CellRange {
     int firstRow = 0;
     int lastColumn = -1;
     int lastRow = -1;
+    bool operator==(const CellRange&) const = default;
     bool IsEmpty() const { return lastColumn < firstColumn || lastRow < firstRow; }
 };
 

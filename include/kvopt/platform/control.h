@@ -34,13 +34,15 @@ public:
     const ControlTemplate& Template() const { return what_; }
     CDialog& Dialog() const { return dialog_; }
 
-    /// The accessible name: the template's, or the label without its mnemonic.
+    /// The accessible name: the template's; else the present label of a button or text without its
+    /// mnemonic; else that of the label whose mnemonic leads here.
     std::wstring AccessibleName() const;
 
-    /// Moves the focus here by program; stands in the transcript.
+    /// Moves the focus here by program; stands in the transcript each time. What had it before lets
+    /// go: an open cell editor commits.
     void SetFocus();
 
-    /// True when the control and its dialog are visible and enabled.
+    /// True when the control is visible and enabled and the user can reach its dialog.
     bool IsUsable() const;
 
     /// The user moved the focus here, by mouse or keyboard. What had it before lets go: an open
@@ -51,6 +53,10 @@ public:
     virtual void OnLosesFocus();
 
 protected:
+    /// Runs what the user does here: refused on a control that is not usable, otherwise the focus
+    /// moves here, then `action` runs (not when the move of the focus made this control unusable),
+    /// then the posted steps.
+    bool Act(const std::function<bool()>& action);
     void Notify(Notification what);
 
 private:

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <deque>
-#include <exception>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,8 +79,13 @@ public:
 
     /// Runs `step` after the present one; dropped when `owner` dies first.
     void Post(const CWnd& owner, std::string_view name, std::function<void()> step);
-    /// Runs the posted steps until none is left. Front ends call it after each user action.
+    /// Runs the posted steps until none is left; does nothing while a user action is under way,
+    /// whose end runs them. Modal runs and the operations of the models that begin with "User" call
+    /// it themselves; a front end with an event loop calls it there for what was posted outside.
     void RunPostedSteps();
+    /// Runs one thing that the user does, then the posted steps unless it stands within another
+    /// such action of the same modal run. Gives what `action` gives.
+    bool RunUserAction(const std::function<bool()>& action);
 
     void SetCursor(Cursor cursor);
     Cursor GetCursor() const { return cursor_; }
@@ -90,8 +95,10 @@ public:
 
     virtual std::wstring ClipboardText() const;
     virtual void SetClipboardText(std::wstring_view text);
-    /// Help on a topic; the base does nothing.
-    virtual void ShowHelp(unsigned topic);
+    /// Help on a topic.
+    void ShowHelp(unsigned topic);
+    /// The screen's resolution, for lengths that are told for 96 dots per inch.
+    virtual int DotsPerInch() const;
 
     /// Where what happens is noted; null for nowhere. Not owned.
     void SetTranscript(Transcript* transcript) { transcript_ = transcript; }
@@ -109,16 +116,26 @@ protected:
     virtual void DoSetCursor(Cursor cursor);
     /// The command chosen, 0 for none.
     virtual int DoShowPopupMenu(CWnd& owner, CPoint point, const std::vector<PopupMenuItem>& items);
+    virtual void DoShowHelp(unsigned topic);
     /// A step was posted; a front end with an event loop arranges for RunPostedSteps.
     virtual void OnPosted();
 
 private:
+    class Busy;
+    class ModalRun;
     struct PostedStep {
+        unsigned long number = 0;
         std::weak_ptr<const void> alive;
         std::string name;
         std::function<void()> step;
     };
+    void RunModal(const std::function<void()>& begin, const std::function<void()>& run,
+                  const std::function<void()>& end);
+
     std::deque<PostedStep> posted_;
+    unsigned long nextStep_ = 0;
+    int busy_ = 0;
+    std::set<TimerId> timers_;
     Cursor cursor_ = Cursor::Arrow;
     Transcript* transcript_ = nullptr;
     std::wstring clipboard_;

@@ -5,12 +5,14 @@
 #include <vector>
 
 #include "kvopt/export.h"
-#include "kvopt/platform/controls.h"
+#include "kvopt/platform/control.h"
 #include "kvopt/platform/message_map.h"
 #include "kvopt/platform/window.h"
 
 namespace kvopt {
 
+class CButton;
+struct CDataExchange;
 struct KeyStroke;
 
 /// Results of a modal run, with the numbers of the desktop.
@@ -41,6 +43,9 @@ public:
     /// OnDestroyWindow.
     void DestroyWindow();
 
+    /// The window text, or before there is one the template's caption.
+    std::wstring Caption() const;
+
     /// Null when there is no window or no such control.
     CControl* GetDlgItem(int number) const;
     /// The control of this number as `T`; null when it is absent or of another kind.
@@ -48,6 +53,9 @@ public:
     T* Item(int number) const {
         return dynamic_cast<T*>(GetDlgItem(number));
     }
+    /// The radio buttons that share one mark with the one of this number, in tab order: from a
+    /// button that starts a group up to the next that does. Empty when it is no radio button.
+    std::vector<CButton*> RadioGroup(int number) const;
     /// In tab order, anonymous ones included.
     const std::vector<std::unique_ptr<CControl>>& Controls() const { return controls_; }
 
@@ -57,7 +65,8 @@ public:
     bool HasEnded() const { return ended_; }
     int Result() const { return result_; }
 
-    /// Controls to members (true) or members to controls (false).
+    /// Controls to members (true) or members to controls (false). Without a window it does nothing
+    /// and gives false.
     bool UpdateData(bool save);
 
     virtual bool OnInitDialog();
@@ -68,6 +77,8 @@ public:
     virtual bool PreTranslateMessage(const KeyStroke& key);
     bool OnCommand(int command) override;
 
+    /// A key that the user pressed, before the focused control gets it; true when it was used up.
+    bool UserKey(const KeyStroke& key);
     /// The user presses OK or Cancel of a free-standing dialog (not of a page).
     bool UserOk();
     bool UserCancel();
@@ -80,16 +91,19 @@ public:
     void DispatchNotification(CControl& control, Notification what);
     void NoteProgramFocus(CControl& control);
     void MoveUserFocus(CControl* control);
-    /// The window that the user must be able to reach: the dialog itself, or a page's sheet.
+    /// Whether the user can reach the controls: a window that is visible, enabled and not ended. Of
+    /// a page its running sheet must be all that too, and the page in front.
     virtual bool IsReachable() const;
 
 protected:
     /// Adds the handlers; a derived class calls its base first.
     virtual void GetMessageMap(MessageMap& map);
+    /// The controls are about to go; they are still there. A derived class calls its base.
     virtual void OnDestroyWindow();
 
 private:
     void MakeControls();
+    bool UserEnds(void (CDialog::*step)());
 
     int templateNumber_;
     bool hasWindow_ = false;

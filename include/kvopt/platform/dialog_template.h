@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <vector>
 
 #include "kvopt/export.h"
@@ -48,7 +49,7 @@ enum class LayoutKind {
 };
 
 /// A node of a dialog's layout. The controls' order, depth first, is the tab order.
-struct LayoutItem {
+struct KVOPT_EXPORT LayoutItem {
     LayoutKind kind = LayoutKind::Space;
     ControlTemplate control;
     const char* title = "";
@@ -70,7 +71,7 @@ struct LayoutItem {
 
 /// A dialog as data: both the control models of the core and the widgets of a front end are made
 /// from it.
-struct DialogTemplate {
+struct KVOPT_EXPORT DialogTemplate {
     int number = 0;
     const char* caption = "";
     LayoutItem layout;
@@ -99,6 +100,8 @@ KVOPT_EXPORT LayoutItem Check(int number, const char* label);
 KVOPT_EXPORT LayoutItem Radio(int number, const char* label);
 KVOPT_EXPORT LayoutItem Spin(int number, int buddy);
 KVOPT_EXPORT LayoutItem Worksheet(int number);
+KVOPT_EXPORT LayoutItem PropertyGrid(int number, const char* label);
+KVOPT_EXPORT LayoutItem Markup(int number, const char* label);
 
 }  // namespace layout
 
@@ -107,7 +110,7 @@ class KVOPT_EXPORT TemplateCatalog {
 public:
     static TemplateCatalog& Instance();
 
-    /// Null when there is none of this number.
+    /// Null when there is none of this number. Stays valid as long as the process.
     const DialogTemplate* Find(int number) const;
     /// Sorted by number.
     std::vector<const DialogTemplate*> All() const;
@@ -116,7 +119,7 @@ public:
 
 private:
     TemplateCatalog();
-    std::vector<DialogTemplate> added_;
+    std::map<int, DialogTemplate> templates_;
 };
 
 }  // namespace kvopt

@@ -18,8 +18,9 @@ public:
     /// Writes the text when it differs, as the data exchange does.
     void ExchangeText(std::wstring_view text);
 
-    /// The whole text after one keystroke. An edit that takes digits alone drops other new
-    /// characters and tells its views to show what is left.
+    /// The whole text after one keystroke; notifies the page, the same text included. An edit that
+    /// takes digits alone drops other new characters and tells its views to show what is left; with
+    /// nothing new left nobody is notified.
     bool UserEdit(std::wstring_view text);
     /// The whole text after a paste; nothing is filtered.
     bool UserPaste(std::wstring_view text);

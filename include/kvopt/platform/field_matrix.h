@@ -17,6 +17,8 @@ public:
     FieldDef* Find(int column, int row);
     FieldDef& GetOrCreateField(int column, int row);
 
+    /// Makes room for `count` rows before `row`.
+    void AddRows(int before, int count);
     void SetColumnType(int column, FieldDef::FieldType type) { columnTypes_[column] = type; }
     FieldDef::FieldType TypeOf(int column, int row) const;
 

@@ -24,19 +24,20 @@ public:
     int GetCount() const { return static_cast<int>(items_.size()); }
     /// Adds at the end and gives the new index.
     int AddString(std::wstring_view text);
-    /// Inserts before `index`; -1 or the count is the end. Gives the new index.
+    /// Inserts before `index`; -1 or the count is the end, any other place that does not exist
+    /// throws InvalidArgument. Gives the new index. What is selected stays selected.
     int InsertString(int index, std::wstring_view text);
+    /// Throws InvalidArgument when there is no such entry, as the operations below do.
     void DeleteString(int index);
     void ResetContent();
-    /// Throws InvalidArgument when there is no such entry.
     const std::wstring& GetItemText(int index) const;
     std::intptr_t GetItemData(int index) const;
     void SetItemData(int index, std::intptr_t data);
 
     /// Compares the whole text, case and all, beginning after `start` and wrapping round; -1 when
-    /// no entry matches.
+    /// no entry matches, and for the empty text.
     int FindStringExact(int start, std::wstring_view text) const;
-    /// Compares the beginning without regard to case, beginning after `start`, wrapping round.
+    /// The same, but compares the beginnings of the entries, without regard to case.
     int FindString(int start, std::wstring_view prefix) const;
 
     /// Views are not told of changes until redrawing is allowed again.
@@ -44,6 +45,7 @@ public:
 
 protected:
     void ItemsChanged();
+    void SelectionChanged();
     virtual void OnItemInserted(int index) = 0;
     virtual void OnItemDeleted(int index) = 0;
     virtual void OnReset() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "kvopt/export.h"
@@ -29,13 +30,18 @@ inline constexpr int kCommandPaste = 57637;
 inline constexpr int kCommandSelectAll = 57642;
 inline constexpr int kCommandHelp = 57670;
 
+/// The accelerator table of worksheets: select all, copy and paste.
+inline constexpr int kWorksheetAccelerators = 6359;
+
 /// Keys that stand for commands, by the number of their table.
 class KVOPT_EXPORT AcceleratorTable {
 public:
     /// Null when there is no table of this number.
     static const AcceleratorTable* Find(int number);
 
-    /// Sends the key's command to `target`; true when the key is in the table and was handled.
+    /// Sends the command of the key to `target`; true when the key is in the table and was handled.
+    /// A target that is a control takes keys only while it has the focus of its dialog, so that the
+    /// other fields of a page keep theirs.
     bool Translate(CWnd* target, const KeyStroke& key) const;
 
 private:

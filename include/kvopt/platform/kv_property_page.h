@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include "kvopt/export.h"
 #include "kvopt/platform/property_page.h"
 
@@ -27,12 +25,15 @@ public:
     /// Marks the page clean; the helper is told when it was dirty.
     virtual void Unchanged();
     virtual bool IsChanged() const;
+    /// Help on the topic; nothing without one.
     virtual void OnHelp();
+    /// A dirty page takes its update along: from the helper before to this one.
     virtual void SetPropertyPageHelper(BasePropertyPageHelper* helper);
     virtual BasePropertyPageHelper* GetPropertyPageHelper() const;
     virtual void AddRef();
     virtual void ReleaseRef();
     virtual int CountRefs() const;
+    /// The help key: runs OnHelp; true.
     virtual bool OnHelpInfo();
 
     bool OnInitDialog() override;
@@ -46,6 +47,7 @@ public:
     /// Null for a page that stands in no sheet, or in one that is not a KvPropertySheet.
     KvPropertySheet* GetSheet() const;
     void SetPageTitle(const wchar_t* title);
+    unsigned CaptionNumber() const { return captionNumber_; }
     void SetHelpTopicID(unsigned topic) { helpTopic_ = topic; }
     unsigned HelpTopicID() const { return helpTopic_; }
     bool HasHelp() const { return helpTopic_ != kNoHelp; }
@@ -55,6 +57,7 @@ protected:
 
 private:
     BasePropertyPageHelper* helper_;
+    unsigned captionNumber_;
     unsigned helpTopic_;
     bool changed_ = false;
     int references_ = 0;

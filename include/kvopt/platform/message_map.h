@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "kvopt/export.h"
-#include "kvopt/platform/controls.h"
+#include "kvopt/platform/control.h"
 
 namespace kvopt {
 

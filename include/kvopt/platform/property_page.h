@@ -3,6 +3,8 @@
 #include <string>
 
 #include "kvopt/export.h"
+#include "kvopt/platform/controls.h"
+#include "kvopt/platform/data_exchange.h"
 #include "kvopt/platform/dialog.h"
 
 namespace kvopt {
@@ -19,6 +21,8 @@ public:
     /// The tab's or wizard page's caption: the template's unless SetPageTitle gave another.
     std::wstring PageTitle() const;
 
+    /// The base runs the data exchange from members to controls, except the first time after
+    /// OnInitDialog, which ran it. False passes this page over: the frame tries the next one.
     virtual bool OnSetActive();
     /// False keeps the page. The base runs the data exchange from controls to members.
     virtual bool OnKillActive();
@@ -43,12 +47,14 @@ public:
 
 protected:
     void StorePageTitle(std::wstring title);
+    void OnDestroyWindow() override;
 
 private:
     friend class CPropertySheet;
     CPropertySheet* sheet_ = nullptr;
     std::wstring title_;
     bool modified_ = false;
+    bool firstActive_ = true;
 };
 
 }  // namespace kvopt

@@ -8,6 +8,9 @@ namespace kvopt {
 /// A page's link to what hosts the sheet, usually the plot that the sheet changes.
 class KVOPT_EXPORT BasePropertyPageHelper {
 public:
+    BasePropertyPageHelper() = default;
+    BasePropertyPageHelper(const BasePropertyPageHelper&) = delete;
+    BasePropertyPageHelper& operator=(const BasePropertyPageHelper&) = delete;
     virtual ~BasePropertyPageHelper();
     /// True while some page is dirty.
     virtual bool IsChanged() const;

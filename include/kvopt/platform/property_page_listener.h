@@ -10,17 +10,23 @@ class BasePropertyPageHelper;
 /// told.
 class KVOPT_EXPORT PropertyPageListener {
 public:
+    PropertyPageListener() = default;
+    PropertyPageListener(const PropertyPageListener&) = delete;
+    PropertyPageListener& operator=(const PropertyPageListener&) = delete;
     virtual ~PropertyPageListener();
     /// The helper is gone, or this listener was detached.
     virtual void OnDisconnect();
     virtual bool IsIgnoreListenerUpdates() const;
     virtual void ListenerUpdate();
 
-    /// Attaches to a helper, leaving the one before; null only leaves.
+    /// Attaches to a helper, leaving the one before; null only leaves. A helper has one listener: a
+    /// former one is detached and told.
     void ConnectTo(BasePropertyPageHelper* helper);
     BasePropertyPageHelper* ConnectedHelper() const { return helper_; }
 
 private:
+    void Detach();
+
     friend class BasePropertyPageHelper;
     BasePropertyPageHelper* helper_ = nullptr;
 };

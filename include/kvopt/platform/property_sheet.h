@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,26 +29,32 @@ public:
     void SetHasApply(bool hasApply) { hasApply_ = hasApply; }
     bool HasApply() const { return hasApply_; }
 
+    /// Throws InvalidArgument for null, for a page that stands in a sheet already, and during a
+    /// run.
     void AddPage(CPropertyPage* page);
     int GetPageCount() const { return static_cast<int>(pages_.size()); }
     /// Zero-based.
     CPropertyPage* GetPage(int index) const;
     /// Zero-based; -1 for a page that is not in the sheet.
     int GetPageIndex(const CPropertyPage* page) const;
+    /// When the sheet is not running, the page to start with; null without pages.
     CPropertyPage* GetActivePage() const;
-    int GetActiveIndex() const { return active_; }
+    /// Zero-based; -1 without pages.
+    int GetActiveIndex() const;
 
     /// Before the run: the page to start with. During it: a whole change of page, at once
     /// (OnKillActive of the old one, which may keep it, then OnSetActive of the new one). Nothing
-    /// happens for the page that is active already. True when the page is active afterwards.
+    /// happens for the page that is active already. True when the page is active afterwards; always
+    /// false for a page that is not in the sheet.
     bool SetActivePage(CPropertyPage* page);
 
-    /// Posted: takes effect after the present step. Bits of WizardButton; the last call wins.
+    /// Posted: takes effect after the present step. Bits of WizardButton; the last call wins. A
+    /// sheet that is no wizard has no such buttons: nothing happens.
     virtual void SetWizardButtons(unsigned long buttons);
     unsigned long WizardButtons() const { return buttons_; }
 
     /// Runs the sheet through the desktop: the finish code, OK, Cancel, or what EndDialog was
-    /// given.
+    /// given. Throws InvalidArgument without pages and while the sheet is running.
     int DoModal();
     void EndDialog(int result);
     bool HasEnded() const { return ended_; }
@@ -81,12 +88,16 @@ private:
 
     void BeginRun();
     void EndRun();
-    bool ChangePage(int index, bool killOld);
+    void RemovePage(CPropertyPage* page);
+    bool ChangePage(int index);
+    void BringUp(int index, int direction);
     bool Leave();
-    void BringUp(int index);
+    void FollowWizardStep(int asked, int answer, int neighbour);
     int IndexOfTemplate(int number) const;
     void ApplyButtons(unsigned long buttons);
-    void UserLeavesControls();
+    void ApplyDefaultButtons();
+    bool IsReachable() const;
+    bool Press(bool offered, const std::function<void()>& step);
 
     std::vector<CPropertyPage*> pages_;
     int active_ = -1;
@@ -97,6 +108,7 @@ private:
     bool ended_ = false;
     int result_ = 2;
     unsigned long buttons_ = 0;
+    bool buttonsSet_ = false;
 };
 
 }  // namespace kvopt

@@ -5,6 +5,8 @@
 
 namespace kvopt {
 
+class CEdit;
+
 /// Up and down arrows that write a number into the edit beside them.
 class KVOPT_EXPORT CSpinButtonCtrl : public CControl {
 public:
@@ -19,10 +21,13 @@ public:
     /// What the buddy shows, clamped to the range; the lower bound when it shows no number.
     int GetPos() const;
 
-    /// One click on an arrow: +1 or -1.
+    /// One click on an arrow: +1 or -1. Nothing is written when the buddy shows the outcome
+    /// already.
     bool UserStep(int delta);
 
 private:
+    CEdit* Buddy() const;
+
     int low_ = 0;
     int high_ = 100;
 };

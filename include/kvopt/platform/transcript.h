@@ -13,6 +13,9 @@ namespace kvopt {
 class KVOPT_EXPORT Transcript {
 public:
     void Add(std::string_view line);
+    /// A text between double quotes, as lines of a transcript have it: "\\" before quotes and
+    /// backslashes, "\\n" for a line break. UTF-8.
+    static std::string Quote(std::wstring_view text);
     const std::vector<std::string>& Lines() const { return lines_; }
     std::string Text() const;
     void Clear() { lines_.clear(); }

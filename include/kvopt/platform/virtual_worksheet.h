@@ -4,10 +4,13 @@
 #include <string>
 
 #include "kvopt/export.h"
-#include "kvopt/platform/controls.h"
-#include "kvopt/platform/worksheet_interface.h"
+#include "kvopt/platform/cell_range.h"
+#include "kvopt/platform/control.h"
+#include "kvopt/platform/geometry.h"
 
 namespace kvopt {
+
+class BaseWorksheetInterface;
 
 /// The window of a worksheet: the control model that stands where the template has its worksheet.
 /// It shows a BaseWorksheetInterface, which it does not own, and turns what the user does into
@@ -26,7 +29,7 @@ public:
     /// Reads everything afresh.
     void Reset();
 
-    /// Select all, copy, paste.
+    /// Select all, copy, paste. While a cell editor is open the keys are its own: not handled.
     bool OnCommand(int command) override;
     /// The focus goes elsewhere: an open editor commits.
     void OnLosesFocus() override;
@@ -38,7 +41,8 @@ public:
     std::optional<CPoint> EditedCell() const { return edited_; }
     /// What its editor holds.
     const std::string& EditorText() const { return editorText_; }
-    /// Takes over what the editor holds through UserChangedData and closes it.
+    /// Closes the editor and, when it holds another text than the cell, takes that over through
+    /// UserChangedData.
     void CommitEdit();
 
     // What the user does.
@@ -49,7 +53,7 @@ public:
     bool UserEdit(const std::string& text);
     bool UserCommit();
     bool UserAbandon();
-    /// Picks an entry (zero-based) of a drop-down cell.
+    /// Picks an entry (zero-based) of a drop-down cell. The one that stands there changes nothing.
     bool UserPick(CPoint cell, int entry);
     /// Mouse steps. `rect` is the cell's rectangle and `point` lies in the same pixels.
     bool UserMouseMove(CPoint point, CPoint cell, const CRect& rect);
@@ -60,6 +64,11 @@ public:
     bool UserCommand(int command);
 
 private:
+    bool IsData(CPoint cell) const;
+    void CommitElsewhere(CPoint cell);
+    void PasteInto(CPoint cell, const std::string& text);
+    bool TakeOver(CPoint cell, const std::string& text);
+
     friend class BaseWorksheetInterface;
     BaseWorksheetInterface* content_ = nullptr;
     CellRange selection_;

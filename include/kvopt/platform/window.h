@@ -44,7 +44,8 @@ public:
     void RemoveListener(WindowListener* listener);
 
     /// Posts a step that runs after the present one, before a modal run returns. It is dropped
-    /// when this object dies first. The name stands in transcripts.
+    /// when this object dies first. The name stands in transcripts; a step without one leaves no
+    /// line of its own.
     void PostStep(std::string_view name, std::function<void()> step);
 
     /// Expires when this object dies.

@@ -12,10 +12,10 @@ enum class WindowChange {
     Enabled,
     Visible,
     Check,
-    Items,       ///< entries of a list were added, removed or changed
+    Items,       ///< entries of a list changed, and perhaps the selection with them
     Selection,   ///< the selected or marked entries changed
     Range,       ///< limits of a spin control changed
-    Focus,       ///< the program moved the focus to this control
+    Focus,       ///< the program moved the focus to this control, perhaps not for the first time
     Cells,       ///< a worksheet must be read afresh
     Buttons,     ///< the frame's buttons changed (Back, Next, Finish, OK, Apply)
     ActivePage,  ///< a sheet brought another page up

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "kvopt/export.h"
+#include "kvopt/platform/cell_range.h"
 #include "kvopt/platform/cell_renderer.h"
 #include "kvopt/platform/data_matrix.h"
 #include "kvopt/platform/field_matrix.h"
@@ -78,7 +79,8 @@ public:
     /// Tells the window to read everything afresh.
     void ResetWorksheetWindow();
     /// Judges the text of an open cell editor without taking it over: false when a number cell
-    /// holds no number. `showState` is the desktop's flag and changes nothing here.
+    /// holds no number; nothing typed is valid. `showState` is the desktop's flag and changes
+    /// nothing here.
     bool IsValid(bool showState) const;
 
     /// Takes over the text of an open cell editor, as any click elsewhere does.
@@ -86,7 +88,7 @@ public:
 
     /// Standard paste: each cell of the clipboard's text (tabs between columns, line breaks between
     /// rows) goes through UserChangedData, beginning at the selection's first cell; cells that are
-    /// not editable are passed over.
+    /// not editable, and texts that a drop-down does not offer, are passed over.
     void OnEditPaste();
     bool OnUpdateEditPaste() const;
     /// The selected cells as text with tabs and line breaks, to the clipboard.
@@ -99,7 +101,7 @@ public:
 
 private:
     friend class VirtualWorksheet;
-    bool Inside(int column, int row) const;
+    void TellWindow();
 
     std::string name_;
     int columns_ = 0;

@@ -1,0 +1,9 @@
+#include "designspace_templates.h"
+
+namespace kvopt {
+
+std::vector<DialogTemplate> DesignSpaceTemplates() {
+    return {};
+}
+
+}  // namespace kvopt

@@ -1,0 +1,9 @@
+#include "options_templates.h"
+
+namespace kvopt {
+
+std::vector<DialogTemplate> OptionsTemplates() {
+    return {};
+}
+
+}  // namespace kvopt

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <vector>
+
+#include "kvopt/platform/dialog_template.h"
+
+namespace kvopt {
+
+std::vector<DialogTemplate> StatPagesTemplates();
+
+}  // namespace kvopt

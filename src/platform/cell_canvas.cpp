@@ -1,0 +1,7 @@
+#include "kvopt/platform/cell_canvas.h"
+
+namespace kvopt {
+
+CellCanvas::~CellCanvas() = default;
+
+}  // namespace kvopt

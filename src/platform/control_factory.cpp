@@ -1,0 +1,34 @@
+#include "control_factory.h"
+
+#include "kvopt/platform/controls.h"
+#include "kvopt/platform/virtual_worksheet.h"
+
+namespace kvopt {
+
+std::unique_ptr<CControl> MakeControl(CDialog& dialog, const ControlTemplate& what) {
+    switch (what.kind) {
+        case ControlKind::Edit:
+            return std::make_unique<CEdit>(dialog, what);
+        case ControlKind::ComboList:
+        case ControlKind::ComboEdit:
+            return std::make_unique<CComboBox>(dialog, what);
+        case ControlKind::ListSingle:
+        case ControlKind::ListMulti:
+            return std::make_unique<CListBox>(dialog, what);
+        case ControlKind::Push:
+        case ControlKind::Check:
+        case ControlKind::Radio:
+            return std::make_unique<CButton>(dialog, what);
+        case ControlKind::Spin:
+            return std::make_unique<CSpinButtonCtrl>(dialog, what);
+        case ControlKind::Worksheet:
+            return std::make_unique<VirtualWorksheet>(dialog, what);
+        case ControlKind::Label:
+        case ControlKind::PropertyGrid:
+        case ControlKind::Markup:
+            break;
+    }
+    return std::make_unique<CStatic>(dialog, what);
+}
+
+}  // namespace kvopt
