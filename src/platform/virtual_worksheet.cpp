@@ -6,7 +6,6 @@
 #include "kvopt/platform/desktop.h"
 #include "kvopt/platform/dialog.h"
 #include "kvopt/platform/keys.h"
-#include "kvopt/platform/worksheet_interface.h"
 #include "kvopt/text/exceptions.h"
 
 namespace kvopt {

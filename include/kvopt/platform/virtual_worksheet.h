@@ -4,13 +4,11 @@
 #include <string>
 
 #include "kvopt/export.h"
-#include "kvopt/platform/cell_range.h"
 #include "kvopt/platform/control.h"
 #include "kvopt/platform/geometry.h"
+#include "kvopt/platform/worksheet_interface.h"
 
 namespace kvopt {
-
-class BaseWorksheetInterface;
 
 /// The window of a worksheet: the control model that stands where the template has its worksheet.
 /// It shows a BaseWorksheetInterface, which it does not own, and turns what the user does into
