@@ -270,7 +270,7 @@ void AxisHelper::TransferSettings(AxisInfo& axis, const std::string& name) const
         const std::size_t count = std::min(kMostSettings, included.size());
         for (std::size_t i = 0; i < count; ++i) {
             const std::string setting = factor->GetSetting(included[i]);
-            text += i == 0 ? setting : Format(axes_texts::kNextSetting, setting);
+            text += i == 0 ? setting : Format(texts::kAxesNextSetting, setting);
         }
     }
     axis.SetSettings(text);

@@ -21,7 +21,7 @@ constexpr float kGreatestPart = 1.0F;
 /// Empty beyond the fifth axis, which no page has.
 const char* Ordinal(int axis) {
     const auto index = static_cast<std::size_t>(axis - 1);
-    return index < std::size(axes_texts::kOrdinals) ? axes_texts::kOrdinals[index].Text() : "";
+    return index < std::size(texts::kAxesOrdinals) ? texts::kAxesOrdinals[index].Text() : "";
 }
 
 }  // namespace
@@ -86,8 +86,8 @@ AxisPage::AxisErrorSeverity AxisRules::AreAxesLegal(std::string& message) const 
         return AxisPage::AxisNoError;
     }
     // Counts axes, not settings: two doubtful settings of one axis are asked about as one.
-    message = warnings + axes_texts::kStillUse.Text() +
-              (warnedAxes > 1 ? axes_texts::kQuestionSeveral : axes_texts::kQuestionOne).Text();
+    message = warnings + texts::kAxesStillUse.Text() +
+              (warnedAxes > 1 ? texts::kAxesQuestionSeveral : texts::kAxesQuestionOne).Text();
     return AxisPage::AxisWarning;
 }
 
@@ -107,7 +107,7 @@ bool AxisRules::FindDuplicate(std::string& message) const {
         }
         for (auto second = std::next(first); second != entries_.end(); ++second) {
             if (first->name == second->name) {
-                message = Format(axes_texts::kDuplicate, first->name);
+                message = Format(texts::kAxesDuplicate, first->name);
                 return true;
             }
         }
@@ -119,17 +119,17 @@ std::string AxisRules::ErrorText(int axis, unsigned flags) const {
     const AxisEntry& entry = entries_[static_cast<std::size_t>(axis - 1)];
     const char* ordinal = Ordinal(axis);
     if ((flags & AxisPage::AxisIllegalName) != 0) {
-        return Format(axes_texts::kIllegalName, ordinal);
+        return Format(texts::kAxesIllegalName, ordinal);
     }
     if ((flags & AxisPage::AxisLowNotNumber) != 0) {
-        return Format(axes_texts::kNotNumber, axes_texts::kLow.Text(), ordinal, entry.name);
+        return Format(texts::kAxesNotNumber, texts::kAxesLow.Text(), ordinal, entry.name);
     }
     if ((flags & AxisPage::AxisHighNotNumber) != 0) {
-        return Format(axes_texts::kNotNumber, axes_texts::kHigh.Text(), ordinal, entry.name);
+        return Format(texts::kAxesNotNumber, texts::kAxesHigh.Text(), ordinal, entry.name);
     }
     if ((flags & AxisPage::AxisLowNotBelowHigh) != 0) {
         const Range range = RangeOf(entry);
-        return Format(axes_texts::kLowNotBelowHigh, range.low, ordinal, entry.name, range.high);
+        return Format(texts::kAxesLowNotBelowHigh, range.low, ordinal, entry.name, range.high);
     }
     return {};
 }
@@ -142,18 +142,18 @@ void AxisRules::JudgeRange(int axis, unsigned flags, std::string& error,
     const bool isPart = type == CEType::Formulation || type == CEType::Filler;
     const auto judge = [&](const PlainText& which, float value) {
         if (isPart && (value > kGreatestPart || value < kLeastPart)) {
-            error = Format(axes_texts::kIllegalSetting, which.Text(), value, Ordinal(axis),
+            error = Format(texts::kAxesIllegalSetting, which.Text(), value, Ordinal(axis),
                            entry.name, kLeastPart, kGreatestPart);
         } else {
-            warning += Format(axes_texts::kOutsideRecommended, which.Text(), value, Ordinal(axis),
+            warning += Format(texts::kAxesOutsideRecommended, which.Text(), value, Ordinal(axis),
                               entry.name);
         }
     };
     if ((flags & AxisPage::AxisLowOutOfRange) != 0) {
-        judge(axes_texts::kLow, range.low);
+        judge(texts::kAxesLow, range.low);
     }
     if ((flags & AxisPage::AxisHighOutOfRange) != 0) {
-        judge(axes_texts::kHigh, range.high);
+        judge(texts::kAxesHigh, range.high);
     }
 }
 

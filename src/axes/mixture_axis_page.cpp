@@ -75,7 +75,7 @@ bool MixtureAxisPage::HasLegalMixtureSettings() const {
     if (lowSum < total && total < highSum) {
         return true;
     }
-    const PlainText& text = lowSum >= total ? axes_texts::kDecreaseLow : axes_texts::kIncreaseHigh;
+    const PlainText& text = lowSum >= total ? texts::kAxesDecreaseLow : texts::kAxesIncreaseHigh;
     ShowMessage(Sheet(), text.Wide(), BoxStyle::Error);
     return false;
 }
