@@ -4,6 +4,8 @@
 
 #include "kvopt/platform/controls.h"
 #include "kvopt/platform/dialog.h"
+#include "kvopt/platform/mnemonic.h"
+#include "kvopt/platform/property_page.h"
 #include "kvopt/text/kv_std_string.h"
 #include "scripted/script_lexer.h"
 
@@ -26,7 +28,7 @@ std::vector<std::string> NamesOf(const CControl& control) {
     };
     add(KvStdString::ToUtf8(control.AccessibleName()));
     if (ShowsItsLabel(control.Kind())) {
-        add(WithoutMnemonic(KvStdString::ToUtf8(control.GetText())));
+        add(PlainLabel(control.GetText()));
     }
     return names;
 }
@@ -39,19 +41,12 @@ CControl* BuddyOf(const CDialog& dialog, const CControl& control) {
 
 }  // namespace
 
-std::string WithoutMnemonic(std::string_view label) {
-    std::string text;
-    for (std::size_t at = 0; at < label.size(); ++at) {
-        if (label[at] == '&' && at + 1 < label.size()) {
-            ++at;
-        }
-        text += label[at];
-    }
-    return text;
+std::string PlainLabel(std::wstring_view label) {
+    return KvStdString::ToUtf8(WithoutMnemonic(label));
 }
 
 std::vector<CControl*> ControlsNamed(const CDialog& dialog, const std::string& name) {
-    const std::string stripped = WithoutMnemonic(name);
+    const std::string stripped = PlainLabel(KvStdString::ToWide(name));
     std::vector<CControl*> bearers;
     const auto add = [&bearers](CControl* control) {
         if (std::find(bearers.begin(), bearers.end(), control) == bearers.end()) {
@@ -81,6 +76,11 @@ std::vector<std::string> ControlNames(const CDialog& dialog) {
         }
     }
     return names;
+}
+
+std::string TitleOf(const CDialog& dialog) {
+    const auto* page = dynamic_cast<const CPropertyPage*>(&dialog);
+    return KvStdString::ToUtf8(page != nullptr ? page->PageTitle() : dialog.Caption());
 }
 
 std::string DescribeControl(const CControl& control) {

@@ -9,8 +9,8 @@ namespace kvopt {
 class CControl;
 class CDialog;
 
-/// A label without its mnemonic: one "&" goes, "&&" becomes "&".
-std::string WithoutMnemonic(std::string_view label);
+/// UTF-8 of a label without its mnemonic.
+std::string PlainLabel(std::wstring_view label);
 
 /// The controls that a script means by a name: those whose accessible name or label it is, and
 /// those to which a label of that text leads (a colon at the label's end may be left out).
@@ -18,6 +18,8 @@ std::vector<CControl*> ControlsNamed(const CDialog& dialog, const std::string& n
 /// All names that a script could use, in quotes, in tab order.
 std::vector<std::string> ControlNames(const CDialog& dialog);
 
+/// A page's title or a dialog's caption, UTF-8.
+std::string TitleOf(const CDialog& dialog);
 /// For messages: number and name.
 std::string DescribeControl(const CControl& control);
 

@@ -13,24 +13,19 @@
 
 namespace kvopt {
 
-bool ModelGestures::Done(bool accepted) {
-    desktop_.RunPostedSteps();
-    return accepted;
-}
-
 bool ModelGestures::Focus(CControl& control) {
-    return Done(control.UserFocus());
+    return control.UserFocus();
 }
 
 bool ModelGestures::Click(CButton& button) {
-    return Done(button.UserClick());
+    return button.UserClick();
 }
 
 bool ModelGestures::Type(CControl& field, const std::wstring& text) {
     const auto keystroke = [&](const std::wstring& whole) {
         auto* edit = dynamic_cast<CEdit*>(&field);
-        return Done(edit != nullptr ? edit->UserEdit(whole)
-                                    : static_cast<CComboBox&>(field).UserEdit(whole));
+        return edit != nullptr ? edit->UserEdit(whole)
+                               : static_cast<CComboBox&>(field).UserEdit(whole);
     };
     bool accepted = Focus(field) && (field.GetText().empty() || keystroke(L""));
     for (const wchar_t character : text) {
@@ -40,11 +35,11 @@ bool ModelGestures::Type(CControl& field, const std::wstring& text) {
 }
 
 bool ModelGestures::Paste(CControl& field, const std::wstring& text) {
-    return Focus(field) && Done(static_cast<CEdit&>(field).UserPaste(text));
+    return Focus(field) && static_cast<CEdit&>(field).UserPaste(text);
 }
 
 bool ModelGestures::Pick(CComboBox& combo, int index) {
-    return Done(combo.UserPick(index));
+    return combo.UserPick(index);
 }
 
 bool ModelGestures::Mark(CListBox& list, const std::vector<int>& indices) {
@@ -52,14 +47,14 @@ bool ModelGestures::Mark(CListBox& list, const std::vector<int>& indices) {
         bool accepted = Focus(list);
         for (std::vector<int> left = list.GetSelItems(); accepted && !left.empty();) {
             left.erase(left.begin());
-            accepted = Done(list.UserMark(left));
+            accepted = list.UserMark(left);
         }
         return accepted;
     }
     std::vector<int> marked;
     for (const int index : indices) {
         marked.insert(std::upper_bound(marked.begin(), marked.end(), index), index);
-        if (!Done(list.UserMark(marked))) {
+        if (!list.UserMark(marked)) {
             return false;
         }
     }
@@ -67,15 +62,15 @@ bool ModelGestures::Mark(CListBox& list, const std::vector<int>& indices) {
 }
 
 bool ModelGestures::DoubleClick(CListBox& list, int index) {
-    return Done(list.UserDoubleClick(index));
+    return list.UserDoubleClick(index);
 }
 
 bool ModelGestures::Spin(CSpinButtonCtrl& spin, bool up) {
-    return Done(spin.UserStep(up ? 1 : -1));
+    return spin.UserStep(up ? 1 : -1);
 }
 
 bool ModelGestures::SelectTab(CPropertySheet& sheet, int index) {
-    return Done(sheet.UserSelectPage(index));
+    return sheet.UserSelectPage(index);
 }
 
 bool ModelGestures::PressOnSheet(CPropertySheet& sheet, FrameButton button) {
@@ -99,9 +94,9 @@ bool ModelGestures::PressOnSheet(CPropertySheet& sheet, FrameButton button) {
 
 bool ModelGestures::Press(const StepScope& scope, FrameButton button) {
     if (scope.sheet != nullptr) {
-        return Done(PressOnSheet(*scope.sheet, button));
+        return PressOnSheet(*scope.sheet, button);
     }
-    return Done(button == FrameButton::Ok ? scope.dialog->UserOk() : scope.dialog->UserCancel());
+    return button == FrameButton::Ok ? scope.dialog->UserOk() : scope.dialog->UserCancel();
 }
 
 bool ModelGestures::PressKey(const StepScope& scope, const KeyStroke& key) {
@@ -109,20 +104,20 @@ bool ModelGestures::PressKey(const StepScope& scope, const KeyStroke& key) {
     if (dialog == nullptr) {
         return false;
     }
-    if (dialog->PreTranslateMessage(key)) {
-        return Done(true);
+    if (dialog->UserKey(key)) {
+        return true;
     }
     auto* worksheet = dynamic_cast<VirtualWorksheet*>(dialog->GetFocusControl());
     if (worksheet != nullptr && KeyToWorksheet(*worksheet, key)) {
-        return Done(true);
+        return true;
     }
     auto* button = dynamic_cast<CButton*>(dialog->GetFocusControl());
     if (button != nullptr && button->Kind() == ControlKind::Push && key == KeyStroke{kKeyReturn}) {
-        return Done(button->UserClick());
+        return button->UserClick();
     }
     // Return belongs to the worksheet that has the focus, edited or not: it never presses OK.
     const bool isKept = worksheet != nullptr && key == KeyStroke{kKeyReturn};
-    return !isKept && Done(KeyToFrame(scope, key));
+    return !isKept && KeyToFrame(scope, key);
 }
 
 bool ModelGestures::KeyToWorksheet(VirtualWorksheet& worksheet, const KeyStroke& key) {
@@ -143,7 +138,8 @@ bool ModelGestures::KeyToWorksheet(VirtualWorksheet& worksheet, const KeyStroke&
 
 bool ModelGestures::KeyToFrame(const StepScope& scope, const KeyStroke& key) {
     if (key == KeyStroke{kKeyF1}) {
-        return scope.ActiveDialog()->OnCommand(kCommandHelp);
+        return Desktop::Instance().RunUserAction(
+            [&] { return scope.ActiveDialog()->OnCommand(kCommandHelp); });
     }
     if (key == KeyStroke{kKeyEscape}) {
         return Press(scope, FrameButton::Cancel);
@@ -164,53 +160,51 @@ bool ModelGestures::SelectCells(VirtualWorksheet& worksheet, const CellRange& ce
     if (accepted) {
         worksheet.SetSelection(cells);
     }
-    return Done(accepted);
+    return accepted;
 }
 
 bool ModelGestures::TypeIntoCell(VirtualWorksheet& worksheet, CPoint cell, const std::string& text,
                                  bool commit) {
-    bool accepted = Done(worksheet.UserSelectCell(cell)) && Done(worksheet.UserBeginEdit(cell)) &&
-                    (worksheet.EditorText().empty() || Done(worksheet.UserEdit("")));
+    bool accepted = worksheet.UserSelectCell(cell) && worksheet.UserBeginEdit(cell) &&
+                    (worksheet.EditorText().empty() || worksheet.UserEdit(""));
     for (const wchar_t character : KvStdString::ToWide(text)) {
-        accepted =
-            accepted && Done(worksheet.UserEdit(worksheet.EditorText() +
-                                                KvStdString::ToUtf8(std::wstring(1, character))));
+        accepted = accepted && worksheet.UserEdit(worksheet.EditorText() +
+                                                  KvStdString::ToUtf8(std::wstring(1, character)));
     }
-    return accepted && (!commit || Done(worksheet.UserCommit()));
+    return accepted && (!commit || worksheet.UserCommit());
 }
 
 bool ModelGestures::PasteIntoCells(VirtualWorksheet& worksheet) {
-    return Done(worksheet.UserCommand(kCommandPaste));
+    return worksheet.UserCommand(kCommandPaste);
 }
 
 bool ModelGestures::PickInCell(VirtualWorksheet& worksheet, CPoint cell, int entry) {
-    return Done(worksheet.UserSelectCell(cell)) && Done(worksheet.UserPick(cell, entry));
+    return worksheet.UserSelectCell(cell) && worksheet.UserPick(cell, entry);
 }
 
 bool ModelGestures::MoveMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) {
     const CRect rect = NominalCellRect(*worksheet.Content(), cell);
-    return Done(worksheet.UserMouseMove(pixel, cell, rect));
+    return worksheet.UserMouseMove(pixel, cell, rect);
 }
 
 bool ModelGestures::PressMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) {
-    return Done(worksheet.UserPress(pixel, cell));
+    return worksheet.UserPress(pixel, cell);
 }
 
 bool ModelGestures::ReleaseMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) {
-    return Done(worksheet.UserRelease(pixel, cell));
+    return worksheet.UserRelease(pixel, cell);
 }
 
 bool ModelGestures::ContextMenu(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) {
     const CellRange& marked = worksheet.Selection();
     const bool isMarked = cell.x >= marked.firstColumn && cell.x <= marked.lastColumn &&
                           cell.y >= marked.firstRow && cell.y <= marked.lastRow;
-    return (isMarked || Done(worksheet.UserSelectCell(cell))) &&
-           Done(worksheet.UserContextMenu(pixel));
+    return (isMarked || worksheet.UserSelectCell(cell)) && worksheet.UserContextMenu(pixel);
 }
 
 bool ModelGestures::Wait(unsigned milliseconds) {
     clock_.Advance(milliseconds);
-    return Done(true);
+    return true;
 }
 
 bool ModelGestures::TakePicture(const std::string& /*name*/) {

@@ -7,15 +7,13 @@
 
 namespace kvopt {
 
-class Desktop;
 class VirtualClock;
 
-/// Hands without windows: each gesture is the model's own "User" operation, followed by the steps
-/// that it posted.
+/// Hands without windows: each gesture is the models' own "User" operations.
 class ModelGestures : public StepGestures {
 public:
-    /// Neither is owned.
-    ModelGestures(Desktop& desktop, VirtualClock& clock) : desktop_(desktop), clock_(clock) {}
+    /// The clock is not owned.
+    explicit ModelGestures(VirtualClock& clock) : clock_(clock) {}
 
     bool Focus(CControl& control) override;
     bool Click(CButton& button) override;
@@ -41,13 +39,10 @@ public:
     bool TakePicture(const std::string& name) override;
 
 private:
-    /// Ends one action of the user: what was posted runs before the next.
-    bool Done(bool accepted);
     bool PressOnSheet(CPropertySheet& sheet, FrameButton button);
     bool KeyToWorksheet(VirtualWorksheet& worksheet, const KeyStroke& key);
     bool KeyToFrame(const StepScope& scope, const KeyStroke& key);
 
-    Desktop& desktop_;
     VirtualClock& clock_;
 };
 

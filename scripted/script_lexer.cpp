@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "kvopt/platform/transcript.h"
+#include "kvopt/text/kv_std_string.h"
+
 namespace kvopt {
 
 namespace {
@@ -60,24 +63,7 @@ std::vector<ScriptWord> SplitScriptLine(std::string_view line) {
 }
 
 std::string QuoteForScript(std::string_view text) {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        switch (c) {
-            case '\n':
-                quoted += "\\n";
-                break;
-            case '\t':
-                quoted += "\\t";
-                break;
-            case '"':
-            case '\\':
-                quoted += '\\';
-                [[fallthrough]];
-            default:
-                quoted += c;
-        }
-    }
-    return quoted + '"';
+    return Transcript::Quote(KvStdString::ToWide(text));
 }
 
 }  // namespace kvopt

@@ -27,7 +27,7 @@ struct ScriptFault {
 /// The words of one line, up to a "#" outside quotes. Throws ScriptFault.
 std::vector<ScriptWord> SplitScriptLine(std::string_view line);
 
-/// A text in quotes, with the escapes that SplitScriptLine resolves.
+/// A text in quotes, as SplitScriptLine reads it back.
 std::string QuoteForScript(std::string_view text);
 
 }  // namespace kvopt

@@ -7,7 +7,7 @@
 namespace kvopt {
 
 ScriptedDesktop::ScriptedDesktop(const UserScript& script)
-    : hands_(std::make_unique<ModelGestures>(*this, clock_)), player_(*this, *hands_) {
+    : hands_(std::make_unique<ModelGestures>(clock_)), player_(*this, *hands_) {
     SetTranscript(&log_);
     player_.Add(script);
 }
@@ -15,15 +15,10 @@ ScriptedDesktop::ScriptedDesktop(const UserScript& script)
 ScriptedDesktop::ScriptedDesktop(std::string_view script)
     : ScriptedDesktop(UserScript::FromText(script)) {}
 
-ScriptedDesktop::~ScriptedDesktop() {
-    if (&Desktop::Instance() == this) {
-        Desktop::Install(nullptr);
-    }
-}
+ScriptedDesktop::~ScriptedDesktop() = default;
 
 void ScriptedDesktop::RunModal(StepScope scope) {
     const StepPlayer::Run run(player_, scope);
-    RunPostedSteps();
     while (!scope.HasEnded()) {
         player_.PlayNext();
     }
@@ -43,10 +38,7 @@ BoxAnswer ScriptedDesktop::DoShowBox(const MessageBoxRequest& request) {
 
 void ScriptedDesktop::DoStartTimer(TimerId id, unsigned milliseconds,
                                    std::function<void()> callback) {
-    clock_.Start(id, milliseconds, [this, callback = std::move(callback)] {
-        callback();
-        RunPostedSteps();
-    });
+    clock_.Start(id, milliseconds, std::move(callback));
 }
 
 void ScriptedDesktop::DoStopTimer(TimerId id) {

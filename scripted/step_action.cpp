@@ -299,9 +299,8 @@ std::string StepAction::SelectTab() {
     }
     std::vector<std::string> captions;
     for (int index = 0; index < scope_.sheet->GetPageCount(); ++index) {
-        captions.push_back(
-            WithoutMnemonic(KvStdString::ToUtf8(scope_.sheet->GetPage(index)->PageTitle())));
-        if (captions.back() == WithoutMnemonic(Text())) {
+        captions.push_back(PlainLabel(scope_.sheet->GetPage(index)->PageTitle()));
+        if (captions.back() == PlainLabel(WideText())) {
             // A page that refuses to be left keeps its place: that is for the script to expect.
             gestures_.SelectTab(*scope_.sheet, index);
             return "";

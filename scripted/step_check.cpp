@@ -43,9 +43,7 @@ std::string CheckPage(const StepScope& scope, const UserStep& step) {
     if (step.values.empty()) {
         return Differs(active->TemplateNumber() == step.count, scope.Describe());
     }
-    const auto* page = dynamic_cast<const CPropertyPage*>(active);
-    const std::wstring title = page != nullptr ? page->PageTitle() : active->GetText();
-    return Differs(KvStdString::ToUtf8(title) == step.values.front(), scope.Describe());
+    return Differs(TitleOf(*active) == step.values.front(), scope.Describe());
 }
 
 std::string CheckFrame(const StepScope& scope, const UserStep& step) {

@@ -151,10 +151,11 @@ int StepPlayer::ChooseFromMenu(const std::vector<PopupMenuItem>& items) {
         Fail("a menu came that no step asks for");
         return 0;
     }
-    const std::string wanted = WithoutMnemonic(*std::exchange(menuEntry_, std::nullopt));
+    const std::string wanted =
+        PlainLabel(KvStdString::ToWide(*std::exchange(menuEntry_, std::nullopt)));
     std::string labels;
     for (const PopupMenuItem& item : items) {
-        const std::string label = WithoutMnemonic(KvStdString::ToUtf8(item.label));
+        const std::string label = PlainLabel(item.label);
         if (item.command == 0) {
             continue;
         }

@@ -250,10 +250,9 @@ std::string StepScope::Describe() const {
     if (active == nullptr) {
         return "a sheet without pages";
     }
-    const auto* page = dynamic_cast<const CPropertyPage*>(active);
-    const std::wstring caption = page != nullptr ? page->PageTitle() : active->GetText();
-    return (page != nullptr ? "page " : "dialog ") + std::to_string(active->TemplateNumber()) +
-           ' ' + QuoteForScript(KvStdString::ToUtf8(caption));
+    const bool isPage = dynamic_cast<const CPropertyPage*>(active) != nullptr;
+    return (isPage ? "page " : "dialog ") + std::to_string(active->TemplateNumber()) + ' ' +
+           QuoteForScript(TitleOf(*active));
 }
 
 VirtualWorksheet* FoundTarget::Worksheet() const {
