@@ -166,7 +166,7 @@ void ScriptParser::TakeArguments(UserStep& step) {
             const std::optional<Cursor> cursor =
                 Peek() != nullptr ? CursorOf(Peek()->text) : std::nullopt;
             if (!cursor) {
-                Expected("arrow, horizontal or wait");
+                Expected("arrow, size-horizontal or wait");
             }
             ++at_;
             step.cursor = *cursor;

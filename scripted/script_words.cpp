@@ -82,7 +82,7 @@ constexpr std::array<WordTable<BoxAnswer>, 4> kAnswers{{
 
 constexpr std::array<WordTable<Cursor>, 3> kCursors{{
     {Cursor::Arrow, "arrow"},
-    {Cursor::SizeHorizontal, "horizontal"},
+    {Cursor::SizeHorizontal, "size-horizontal"},
     {Cursor::Wait, "wait"},
 }};
 

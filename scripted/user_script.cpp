@@ -56,14 +56,12 @@ UserScript UserScript::FromText(std::string_view text, std::string source) {
 
 UserScript UserScript::FromFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw FileError(path, "the file cannot be opened");
+    // A folder opens, and fails at the first byte.
+    if (!file || (file.peek(), file.bad())) {
+        throw FileError(path, "the file cannot be read");
     }
     std::ostringstream text;
     text << file.rdbuf();
-    if (text.bad()) {
-        throw FileError(path, "the file cannot be read");
-    }
     return FromText(text.str(), path);
 }
 

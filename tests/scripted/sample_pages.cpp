@@ -143,6 +143,7 @@ bool SamplePage::OnInitDialog() {
     Item<CSpinButtonCtrl>(kCountArrows)->SetRange(1, 5);
     Item<CSpinButtonCtrl>(kCountArrows)->SetPos(2);
     VirtualWorksheet::CreateFromStatic(*this, kGrid, grid);
+    isShown_ = true;
     return true;
 }
 
@@ -165,6 +166,9 @@ void SamplePage::GetMessageMap(MessageMap& map) {
     }
     const auto note = [this](int number, const char* what) {
         return [this, number, what] {
+            if (!isShown_) {
+                return;
+            }
             Note(std::string(what) + ' ' + std::to_string(number) + ' ' +
                  KvStdString::ToUtf8(GetDlgItem(number)->GetText()));
         };

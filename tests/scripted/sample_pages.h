@@ -63,7 +63,8 @@ private:
     void NoteMouse(const char* what, const CPoint& point, const CPoint& cell) const;
 };
 
-/// One control of every kind; its handlers note what they hear, or do what a test tells them.
+/// One control of every kind; once it is shown its handlers note what they hear, or do what a test
+/// tells them.
 class SamplePage : public CPropertyPage {
 public:
     explicit SamplePage(int number = kFirstPage);
@@ -81,6 +82,9 @@ public:
 protected:
     void GetMessageMap(MessageMap& map) override;
     bool PreTranslateMessage(const KeyStroke& key) override;
+
+private:
+    bool isShown_ = false;
 };
 
 /// A dialog with one button.

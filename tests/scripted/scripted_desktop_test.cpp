@@ -209,7 +209,7 @@ TEST_F(ScriptedDesktopTest, PastesCopiesAndSelectsCells) {
 TEST_F(ScriptedDesktopTest, DragsASliderFromItsThumb) {
     PlayOnPage("drag cell Width Setting to 5\ndrag cell Width Setting to 100%");
     EXPECT_THAT(Heard(),
-                ElementsAre("move 3,1 at 31,11", "cursor horizontal", "press 3,1 at 31,11",
+                ElementsAre("move 3,1 at 31,11", "cursor size-horizontal", "press 3,1 at 31,11",
                             "move 3,1 at 51,11", "release 3,1 at 51,11", "move 3,1 at 31,11",
                             "press 3,1 at 31,11", "move 3,1 at 101,11", "release 3,1 at 101,11"));
     EXPECT_THAT(faults_, IsEmpty());
@@ -217,8 +217,9 @@ TEST_F(ScriptedDesktopTest, DragsASliderFromItsThumb) {
 
 TEST_F(ScriptedDesktopTest, DragsASliderToAnotherCell) {
     PlayOnPage("drag cell Width Setting to cell Grade Value 25%");
-    EXPECT_THAT(Heard(), ElementsAre("move 3,1 at 31,11", "cursor horizontal", "press 3,1 at 31,11",
-                                     "move 2,2 at 26,11", "cursor arrow", "release 2,2 at 26,11"));
+    EXPECT_THAT(Heard(),
+                ElementsAre("move 3,1 at 31,11", "cursor size-horizontal", "press 3,1 at 31,11",
+                            "move 2,2 at 26,11", "cursor arrow", "release 2,2 at 26,11"));
     EXPECT_THAT(faults_, IsEmpty());
 }
 
@@ -236,7 +237,7 @@ TEST_F(ScriptedDesktopTest, ASliderThatDoesNotOfferItselfCannotBeDragged) {
 
 TEST_F(ScriptedDesktopTest, HoversAndShowsTipAndCursor) {
     PlayOnPage(
-        "expect cursor arrow\nhover cell Width Setting 50%\nexpect cursor horizontal\n"
+        "expect cursor arrow\nhover cell Width Setting 50%\nexpect cursor size-horizontal\n"
         "hover cell Width Value\nexpect cursor arrow\nexpect tip cell Grade Factor \"Tip 2\"\n"
         "expect tip cell Grade Value \"\"");
     EXPECT_THAT(Heard(), testing::Contains("move 3,1 at 51,11"));
@@ -357,8 +358,8 @@ TEST_F(ScriptedDesktopTest, StepsThatEndWhileAWindowIsOpenAreAFaultAndCancelIt) 
     };
     EXPECT_EQ(Play("click 108"), kResultCancel);
     EXPECT_THAT(faults_,
-                ElementsAre("script:1: the steps end while dialog 39003 \"Ask\" is open",
-                            "script:1: the steps end while page 39001 \"First page\" is open"));
+                ElementsAre("script: the steps end while dialog 39003 \"Ask\" is open",
+                            "script: the steps end while page 39001 \"First page\" is open"));
 }
 
 TEST_F(ScriptedDesktopTest, AWindowThatRefusesToBeCancelledIsEndedAllTheSame) {

@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
         Spelling{"expect hidden apply", "expect hidden apply"},
         Spelling{"expect focus 6036", "expect focus 6036"},
         Spelling{"expect tip cell 1 1 \"\"", "expect tip cell 1 1 \"\""},
-        Spelling{"expect cursor horizontal", "expect cursor horizontal"},
+        Spelling{"expect cursor size-horizontal", "expect cursor size-horizontal"},
         Spelling{"expect clipboard \"a\\nb\"", "expect clipboard \"a\\nb\""}));
 
 struct BadLine {
@@ -172,7 +172,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"expect box question x answer ok", 30, "yes or no", "ok"},
         BadLine{"expect box warning-question x answer cancel", 38, "yes or no", "cancel"},
         BadLine{"expect page", 12, "a page", kEnd},
-        BadLine{"expect cursor round", 15, "arrow, horizontal or wait", "round"},
+        BadLine{"expect cursor round", 15, "arrow, size-horizontal or wait", "round"},
         BadLine{"type 6055 \"\xFF\"", 1, "UTF-8", "other bytes"}));
 
 TEST(UserScript, CountsLinesFromOneAndPassesOverCommentsAndEmptyLines) {
@@ -249,7 +249,7 @@ TEST(UserScript, ReadsTheExampleOfTheDocument) {
                            std::istreambuf_iterator<char>()};
     const std::size_t begin = text.find("```\n", text.find("## An example")) + 4;
     const std::size_t end = text.find("```", begin);
-    EXPECT_EQ(UserScript::FromText(text.substr(begin, end - begin)).Steps().size(), 13U);
+    EXPECT_EQ(UserScript::FromText(text.substr(begin, end - begin)).Steps().size(), 14U);
 }
 
 TEST(UserScript, EveryVerbStandsInTheDocument) {

@@ -74,7 +74,7 @@ struct CellPlace {
 };
 
 /// What a step is aimed at, as the script names it. Nothing is looked up here.
-struct StepTarget {
+struct KVOPT_EXPORT StepTarget {
     enum class Kind {
         None,
         Number,  ///< a control, by its number
@@ -109,7 +109,7 @@ struct ExpectedBox {
 };
 
 /// One line of a script: what the user does, or what must be. All texts are UTF-8.
-struct UserStep {
+struct KVOPT_EXPORT UserStep {
     StepVerb verb = StepVerb::Click;
     StepTarget target;
     StepTarget to;                    ///< other end of Select; where Drag goes, when to a cell
