@@ -105,8 +105,8 @@ private:
     std::string name_;
     std::string unit_;
     std::string settings_;
-    float min_ = static_cast<float>(kNotSet);
-    float max_ = static_cast<float>(kNotSet);
+    float min_ = kNotSetF;
+    float max_ = kNotSetF;
     bool qualitative_ = false;
 };
 
