@@ -188,7 +188,7 @@ FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path, std::st
 std::string SetFileAside(FileLayer& layer, const std::string& path) {
     constexpr int kAttempts = 10000;
     for (int i = 1; i <= kAttempts; ++i) {
-        const std::string name = path + ".unreadable-" + std::to_string(i);
+        std::string name = path + ".unreadable-" + std::to_string(i);
         if (layer.RenameToNew(path, name) == 0) {
             return name;
         }

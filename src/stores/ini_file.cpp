@@ -20,7 +20,7 @@ IniFile::~IniFile() {
 }
 
 void IniFile::Refresh() {
-    if (path_.empty() || StampOf(*layer_, path_) == stamp_) {
+    if (path_.empty() || !HasFileChanged()) {
         return;
     }
     try {
@@ -43,6 +43,12 @@ void IniFile::TellTroubles() {
     for (const StoreTrouble& trouble : troubles) {
         TellStoreTrouble(trouble);
     }
+}
+
+// No file and an empty one are the same; the lock makes the one of the other.
+bool IniFile::HasFileChanged() const {
+    const FileStamp stamp = StampOf(*layer_, path_);
+    return stamp != stamp_ && (stamp.size != 0 || stamp_.size != 0);
 }
 
 void IniFile::Load() {
@@ -99,7 +105,7 @@ void IniFile::Flush() {
 
 void IniFile::WriteThrough() {
     const FileLock lock(layer_, path_);
-    if (StampOf(*layer_, path_) != stamp_) {
+    if (HasFileChanged()) {
         LoadOrSetAside();
     }
     if (isBlocked_) {

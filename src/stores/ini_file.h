@@ -28,6 +28,7 @@ public:
     void Flush() override;
 
 private:
+    bool HasFileChanged() const;
     void Load();
     void LoadOrSetAside();
     void Block(const std::string& reason);

@@ -1,5 +1,6 @@
 #include "stores/ini_text.h"
 
+#include <array>
 #include <cstddef>
 #include <utility>
 
@@ -12,14 +13,24 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kEscapedInNames = "%=;#[]\"\\";
+// Which bytes are copied as they stand wherever they are in a text.
+class PlainBytes {
+public:
+    explicit constexpr PlainBytes(std::string_view escaped) {
+        for (std::size_t byte = 0x21; byte < 0x7F; ++byte) {
+            isPlain_[byte] = escaped.find(static_cast<char>(byte)) == std::string_view::npos;
+        }
+    }
 
-bool IsControl(char c) {
-    return static_cast<unsigned char>(c) < 0x20 || c == '\x7F';
-}
-bool IsAscii(char c) {
-    return static_cast<unsigned char>(c) < 0x80;
-}
+    constexpr bool Has(char c) const { return isPlain_[static_cast<unsigned char>(c)]; }
+
+private:
+    std::array<bool, 256> isPlain_{};
+};
+
+constexpr PlainBytes kPlainInNames("%=;#[]\"\\");
+constexpr PlainBytes kPlainInValues("%");
+constexpr PlainBytes kPlainInErrors("");
 
 void AppendEscape(std::string& text, char byte) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
@@ -29,37 +40,39 @@ void AppendEscape(std::string& text, char byte) {
     text += kDigits[value & 0xFU];
 }
 
-// Copies what needs no escape in runs; `special` are the ASCII characters to escape besides control
-// characters.
-void AppendEscaped(std::string& text, std::string_view raw, std::string_view special,
+// Copies what needs no escape in runs. A space is plain but at the ends, and so is a character
+// beyond ASCII but for a byte order mark in a name.
+void AppendEscaped(std::string& text, std::string_view raw, const PlainBytes& plain,
                    bool escapeMarks) {
     const std::size_t size = raw.size();
+    std::size_t copied = 0;
     std::size_t i = 0;
     while (i < size) {
         const char c = raw[i];
-        if (IsAscii(c)) {
-            const bool isEdge = c == ' ' && (i == 0 || i + 1 == size);
-            if (isEdge || IsControl(c) || special.find(c) != std::string_view::npos) {
-                AppendEscape(text, c);
-            } else {
-                text += c;
-            }
+        if (plain.Has(c) || (c == ' ' && i > 0 && i + 1 < size)) {
             ++i;
             continue;
         }
-        const std::string_view rest = raw.substr(i);
-        const utf8::Character character = utf8::Decode(rest);
-        const bool isMark = escapeMarks && rest.substr(0, kByteOrderMark.size()) == kByteOrderMark;
-        const std::size_t length = character.length > 0 ? character.length : 1;
-        if (character.length == 0 || isMark) {
-            for (const char byte : rest.substr(0, length)) {
-                AppendEscape(text, byte);
+        std::size_t length = 1;
+        if (static_cast<unsigned char>(c) >= 0x80) {
+            const std::string_view rest = raw.substr(i);
+            const utf8::Character character = utf8::Decode(rest);
+            const bool isMark =
+                escapeMarks && rest.substr(0, kByteOrderMark.size()) == kByteOrderMark;
+            if (character.length > 0 && !isMark) {
+                i += character.length;
+                continue;
             }
-        } else {
-            text += rest.substr(0, length);
+            length = isMark ? kByteOrderMark.size() : 1;
+        }
+        text.append(raw, copied, i - copied);
+        for (const char byte : raw.substr(i, length)) {
+            AppendEscape(text, byte);
         }
         i += length;
+        copied = i;
     }
+    text.append(raw, copied, size - copied);
 }
 
 int HexDigit(char c) {
@@ -180,7 +193,7 @@ private:
     static std::string Quote(std::string_view text) {
         constexpr std::size_t kLongest = 60;
         std::string quoted = "\"";
-        AppendEscaped(quoted, text.substr(0, kLongest), "", false);
+        AppendEscaped(quoted, text.substr(0, kLongest), kPlainInErrors, false);
         return quoted + (text.size() > kLongest ? "...\"" : "\"");
     }
 
@@ -205,7 +218,8 @@ void AppendLines(std::string& text, std::string_view lines) {
     }
 }
 
-void PrintSection(std::string& text, const SectionNode& section, const std::string& header) {
+// `header` is the section's own; it is put back before the return.
+void PrintSection(std::string& text, const SectionNode& section, std::string& header) {
     const bool isRoot = section.Parent() == nullptr;
     if (!isRoot && (section.hasHeader || section.isNew || !section.Keys().empty())) {
         AppendLines(text, section.linesAbove);
@@ -230,15 +244,16 @@ void PrintSection(std::string& text, const SectionNode& section, const std::stri
         text += '\n';
     }
     for (const std::unique_ptr<SectionNode>& child : section.Children()) {
-        std::string childHeader = header;
-        childHeader += '[';
-        AppendName(childHeader, child->Name());
+        const std::size_t length = header.size();
+        header += '[';
+        AppendName(header, child->Name());
         if (child->Number() != 1) {
-            childHeader += ';';
-            childHeader += std::to_string(child->Number());
+            header += ';';
+            header += std::to_string(child->Number());
         }
-        childHeader += ']';
-        PrintSection(text, *child, childHeader);
+        header += ']';
+        PrintSection(text, *child, header);
+        header.resize(length);
     }
 }
 
@@ -248,12 +263,12 @@ void AppendName(std::string& text, std::string_view name) {
     if (name.empty()) {
         text += '%';
     } else {
-        AppendEscaped(text, name, kEscapedInNames, true);
+        AppendEscaped(text, name, kPlainInNames, true);
     }
 }
 
 void AppendValue(std::string& text, std::string_view value) {
-    AppendEscaped(text, value, "%", false);
+    AppendEscaped(text, value, kPlainInValues, false);
 }
 
 std::string Unescape(std::string_view text) {
@@ -287,7 +302,8 @@ Document Parse(std::string_view text, std::string_view fileName) {
 
 std::string Print(const SectionNode& root, std::string_view tail) {
     std::string text;
-    PrintSection(text, root, "");
+    std::string header;
+    PrintSection(text, root, header);
     AppendLines(text, tail);
     return text;
 }

@@ -32,6 +32,10 @@ StoredKey& SectionNode::OpenKey(std::string_view name) {
     if (StoredKey* key = FindKey(name)) {
         return *key;
     }
+    if (keys_.empty()) {
+        constexpr std::size_t kUsualKeys = 4;
+        keys_.reserve(kUsualKeys);
+    }
     keys_.emplace_back().name = name;
     if (keys_.size() == kSearchedKeys + 1) {
         for (std::size_t i = 0; i < keys_.size(); ++i) {

@@ -79,9 +79,18 @@ SectionPath StoreSection::Path() const {
 }
 
 SectionNode* StoreSection::Find() const {
-    if (node_ == nullptr || generation_ != store_->Generation()) {
-        node_ = store_->Find(Path());
+    if (generation_ != store_->Generation()) {
+        baseNode_ = nullptr;
+        node_ = nullptr;
         generation_ = store_->Generation();
+    }
+    if (node_ == nullptr) {
+        if (baseNode_ == nullptr) {
+            baseNode_ = store_->Find(base_);
+        }
+        node_ = baseNode_ != nullptr && selected_
+                    ? baseNode_->FindChild(selected_->name, selected_->number)
+                    : baseNode_;
     }
     return node_;
 }

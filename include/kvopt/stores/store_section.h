@@ -66,6 +66,9 @@ private:
     std::shared_ptr<SectionStore> store_;
     SectionPath base_;
     std::optional<SectionStep> selected_;
+    // Where the handle was opened and where it stands, as far as both are there; good for one
+    // generation of the store.
+    mutable SectionNode* baseNode_ = nullptr;
     mutable SectionNode* node_ = nullptr;
     mutable unsigned generation_ = 0;
 };
