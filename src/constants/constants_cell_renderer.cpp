@@ -23,16 +23,14 @@ ConstantsCellRenderer::ConstantsCellRenderer(const VWSConstantInterface& grid,
 void ConstantsCellRenderer::DrawCell(CellCanvas& canvas, const BaseWorksheetInterface& worksheet,
                                      int column, int row, const CRect& rect) const {
     VWSCellRenderer::DrawCell(canvas, worksheet, column, row, rect);
-    const auto low = static_cast<float>(factor_.GetLow(true));
-    const auto high = static_cast<float>(factor_.GetHigh(true));
-    if (low == kNotSetF || high == kNotSetF) {
+    const std::optional<CellSlider> slider = Slider(worksheet, column, row);
+    if (!slider) {
         return;
     }
-    const VWSCellPainter painter(&canvas, low, high, rect, kSliderMargin);
+    const auto [low, high, value, margin] = *slider;
+    const VWSCellPainter painter(&canvas, low, high, rect, margin);
     CRect textRect = rect;
     textRect.DeflateRect(1, 1);
-    float value = kNotSetF;
-    KvString::ToFloat(grid_.GetCellText(2, row), value);
 
     if (value >= low && value <= high) {
         painter.DrawChannel();
@@ -53,6 +51,17 @@ void ConstantsCellRenderer::DrawCell(CellCanvas& canvas, const BaseWorksheetInte
         canvas.PrintText(textRect, texts::kConstantsAboveRange.Text(), TextAlign::Right);
     }
     canvas.SetTextColour(kBlack);
+}
+
+std::optional<CellSlider> ConstantsCellRenderer::Slider(const BaseWorksheetInterface& /*worksheet*/,
+                                                        int /*column*/, int row) const {
+    CellSlider slider{static_cast<float>(factor_.GetLow(true)),
+                      static_cast<float>(factor_.GetHigh(true)), kNotSetF, kSliderMargin};
+    if (slider.low == kNotSetF || slider.high == kNotSetF) {
+        return std::nullopt;
+    }
+    KvString::ToFloat(grid_.GetCellText(2, row), slider.value);
+    return slider;
 }
 
 }  // namespace kvopt

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "kvopt/export.h"
 #include "kvopt/platform/cell_renderer.h"
 
@@ -15,6 +17,9 @@ public:
 
     void DrawCell(CellCanvas& canvas, const BaseWorksheetInterface& worksheet, int column, int row,
                   const CRect& rect) const override;
+    /// None for a factor without limits. The value is -99 when the cell holds no number.
+    std::optional<CellSlider> Slider(const BaseWorksheetInterface& worksheet, int column,
+                                     int row) const override;
 
 private:
     const VWSConstantInterface& grid_;
