@@ -72,7 +72,7 @@ std::vector<std::string> ControlNames(const CDialog& dialog) {
     std::vector<std::string> names;
     for (const auto& control : dialog.Controls()) {
         for (const std::string& name : NamesOf(*control)) {
-            names.push_back(QuoteForScript(name));
+            names.push_back(name);
         }
     }
     return names;

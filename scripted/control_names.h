@@ -15,7 +15,7 @@ std::string PlainLabel(std::wstring_view label);
 /// The controls that a script means by a name: those whose accessible name or label it is, and
 /// those to which a label of that text leads (a colon at the label's end may be left out).
 std::vector<CControl*> ControlsNamed(const CDialog& dialog, const std::string& name);
-/// All names that a script could use, in quotes, in tab order.
+/// All names that a script could use, in tab order.
 std::vector<std::string> ControlNames(const CDialog& dialog);
 
 /// A page's title or a dialog's caption, UTF-8.

@@ -66,4 +66,12 @@ std::string QuoteForScript(std::string_view text) {
     return Transcript::Quote(KvStdString::ToWide(text));
 }
 
+std::string QuoteForScript(const std::vector<std::string>& texts) {
+    std::string list;
+    for (const std::string& text : texts) {
+        list += (list.empty() ? "" : ", ") + QuoteForScript(text);
+    }
+    return list.empty() ? "none" : list;
+}
+
 }  // namespace kvopt

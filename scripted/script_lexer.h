@@ -29,5 +29,7 @@ std::vector<ScriptWord> SplitScriptLine(std::string_view line);
 
 /// A text in quotes, as SplitScriptLine reads it back.
 std::string QuoteForScript(std::string_view text);
+/// Texts in quotes with commas between them; "none" without one.
+std::string QuoteForScript(const std::vector<std::string>& texts);
 
 }  // namespace kvopt

@@ -192,7 +192,7 @@ std::optional<KeyStroke> KeyOf(std::string_view word) {
         key.key = *named;
     } else if (word.size() == 1 &&
                ((word[0] >= 'A' && word[0] <= 'Z') || (word[0] >= '0' && word[0] <= '9'))) {
-        key.key = word[0];
+        key.key = static_cast<unsigned char>(word[0]);
     } else {
         return std::nullopt;
     }

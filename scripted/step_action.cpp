@@ -25,16 +25,8 @@ std::string Refused(bool done) {
     return done ? "" : "the control refused";
 }
 
-std::string QuotedList(const std::vector<std::string>& texts) {
-    std::vector<std::string> quoted;
-    for (const std::string& text : texts) {
-        quoted.push_back(QuoteForScript(text));
-    }
-    return quoted.empty() ? "none" : KvStdString::FormatStringVector(quoted, ", ");
-}
-
 std::string NoEntry(const std::string& entry, const std::vector<std::string>& entries) {
-    return "there is no entry " + QuoteForScript(entry) + "; there are " + QuotedList(entries);
+    return "there is no entry " + QuoteForScript(entry) + "; there are " + QuoteForScript(entries);
 }
 
 /// One step on its way: what it needs, and what it found.
@@ -232,13 +224,11 @@ std::string StepAction::DragTo(CPoint thumb, CPoint cell, CPoint pixel) {
 
 std::string StepAction::EntryIndex(const CItemControl& list, const std::string& text,
                                    int& index) const {
-    index = list.FindStringExact(-1, KvStdString::ToWide(text));
-    if (index >= 0) {
-        return "";
-    }
     std::vector<std::string> entries;
-    for (int at = 0; at < list.GetCount(); ++at) {
-        entries.push_back(KvStdString::ToUtf8(list.GetItemText(at)));
+    for (index = 0; index < list.GetCount(); ++index) {
+        if (entries.emplace_back(KvStdString::ToUtf8(list.GetItemText(index))) == text) {
+            return "";
+        }
     }
     return NoEntry(text, entries);
 }
@@ -246,14 +236,14 @@ std::string StepAction::EntryIndex(const CItemControl& list, const std::string& 
 std::string StepAction::PickEntry() {
     auto& combo = static_cast<CComboBox&>(*found_.control);
     int index = -1;
-    const std::string problem = EntryIndex(combo, Text(), index);
+    std::string problem = EntryIndex(combo, Text(), index);
     return problem.empty() ? Refused(gestures_.Pick(combo, index)) : problem;
 }
 
 std::string StepAction::DoubleClickEntry() {
     auto& list = static_cast<CListBox&>(*found_.control);
     int index = -1;
-    const std::string problem = EntryIndex(list, Text(), index);
+    std::string problem = EntryIndex(list, Text(), index);
     return problem.empty() ? Refused(gestures_.DoubleClick(list, index)) : problem;
 }
 
@@ -264,7 +254,7 @@ std::string StepAction::MarkEntries() {
     }
     std::vector<int> indices;
     for (const std::string& entry : step_.values) {
-        const std::string problem = EntryIndex(list, entry, indices.emplace_back());
+        std::string problem = EntryIndex(list, entry, indices.emplace_back());
         if (!problem.empty()) {
             return problem;
         }
@@ -298,6 +288,7 @@ std::string StepAction::SelectTab() {
         return "there are no tabs here";
     }
     std::vector<std::string> captions;
+    captions.reserve(static_cast<std::size_t>(scope_.sheet->GetPageCount()));
     for (int index = 0; index < scope_.sheet->GetPageCount(); ++index) {
         captions.push_back(PlainLabel(scope_.sheet->GetPage(index)->PageTitle()));
         if (captions.back() == PlainLabel(WideText())) {
@@ -306,7 +297,7 @@ std::string StepAction::SelectTab() {
             return "";
         }
     }
-    return "there is no tab " + QuoteForScript(Text()) + "; there are " + QuotedList(captions);
+    return "there is no tab " + QuoteForScript(Text()) + "; there are " + QuoteForScript(captions);
 }
 
 std::string StepAction::PressFrame(FrameButton button) {

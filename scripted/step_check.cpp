@@ -28,11 +28,7 @@ std::string CheckTexts(const std::vector<std::string>& expected,
     if (expected == found) {
         return "";
     }
-    std::string list;
-    for (const std::string& text : found) {
-        list += (list.empty() ? "" : ", ") + QuoteForScript(text);
-    }
-    return list.empty() ? "there are none" : "there are " + list;
+    return "there are " + QuoteForScript(found);
 }
 
 std::string CheckPage(const StepScope& scope, const UserStep& step) {

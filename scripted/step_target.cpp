@@ -96,10 +96,6 @@ FoundTarget Checked(CControl& control, const VerbFit& fit) {
     return found;
 }
 
-std::string Join(const std::vector<std::string>& parts) {
-    return parts.empty() ? "none" : KvStdString::FormatStringVector(parts, ", ");
-}
-
 /// Keeps those for which `isBetter` holds, when there is one.
 template <class Test>
 void Prefer(std::vector<CControl*>& controls, Test isBetter) {
@@ -117,11 +113,11 @@ FoundTarget Choose(std::vector<CControl*> bearers, const VerbFit& fit, const std
     if (bearers.size() == 1 || !Fits(*bearers.front(), fit)) {
         return Checked(*bearers.front(), fit);
     }
-    std::vector<std::string> numbers;
+    std::string numbers;
     for (const CControl* control : bearers) {
-        numbers.push_back(std::to_string(control->Number()));
+        numbers += (numbers.empty() ? "" : ", ") + std::to_string(control->Number());
     }
-    return Problem(QuoteForScript(name) + " names several controls: " + Join(numbers));
+    return Problem(QuoteForScript(name) + " names several controls: " + numbers);
 }
 
 FoundTarget FindByName(const StepScope& scope, const CDialog& dialog, const std::string& name,
@@ -129,7 +125,7 @@ FoundTarget FindByName(const StepScope& scope, const CDialog& dialog, const std:
     const std::vector<CControl*> bearers = ControlsNamed(dialog, name);
     if (bearers.empty()) {
         return Problem("no control of " + scope.Describe() + " is named " + QuoteForScript(name) +
-                       "; there are " + Join(ControlNames(dialog)));
+                       "; there are " + QuoteForScript(ControlNames(dialog)));
     }
     return Choose(bearers, fit, name);
 }
@@ -185,11 +181,11 @@ int PositionOf(const CellPlace& place, int count, const char* what, TextAt textA
             return position;
         }
         if (!text.empty()) {
-            names.push_back(QuoteForScript(text));
+            names.push_back(text);
         }
     }
     problem = std::string("no ") + what + " is named " + QuoteForScript(place.name) +
-              "; there are " + Join(names);
+              "; there are " + QuoteForScript(names);
     return 0;
 }
 

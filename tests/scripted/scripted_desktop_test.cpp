@@ -97,6 +97,14 @@ TEST_F(ScriptedDesktopTest, PicksAnEntryByItsWholeText) {
     EXPECT_THAT(faults_, IsEmpty());
 }
 
+TEST_F(ScriptedDesktopTest, PicksAnEntryWithoutText) {
+    first_.onOptions = [&] { first_.Item<CComboBox>(kFactor)->AddString(L""); };
+    PlayOnPage(
+        "click 108\npick \"Factor\" Time\npick \"Factor\" \"\"\nexpect text \"Factor\" \"\"");
+    EXPECT_THAT(Heard(), ElementsAre("selection 104 Time", "selection 104 "));
+    EXPECT_THAT(faults_, IsEmpty());
+}
+
 TEST_F(ScriptedDesktopTest, AnEntryThatIsNotThereIsAFaultThatNamesThoseThatAre) {
     PlayOnPage("pick \"Factor\" Tem\nmark \"Available\" Temp Tim\ndouble-click \"Kind\" x");
     EXPECT_THAT(
