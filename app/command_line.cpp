@@ -1,0 +1,73 @@
+#include "command_line.h"
+
+#include <kvopt/text.h>
+
+namespace {
+
+[[noreturn]] void Refuse(const std::string& what) {
+    throw kvopt::InvalidArgument(what + "\n" + CommandLine::Usage());
+}
+
+}  // namespace
+
+const char* CommandLine::Usage() {
+    return "usage: kvopt-demo [STUDY]\n"
+           "       kvopt-demo run contour STUDY [--script FILE] [--out DIR]\n"
+           "                  [--front scripted|qt] [--window]\n";
+}
+
+CommandLine CommandLine::Parse(const std::vector<std::string>& words) {
+    CommandLine result;
+    std::vector<std::string> names;
+    for (std::size_t at = 0; at < words.size(); ++at) {
+        const std::string& word = words[at];
+        const auto value = [&]() -> const std::string& {
+            if (at + 1 == words.size()) {
+                Refuse(word + " needs a value");
+            }
+            return words[++at];
+        };
+        if (word == "--help" || word == "-h") {
+            result.task = Task::Help;
+            return result;
+        }
+        if (word == "--script") {
+            result.script = value();
+        } else if (word == "--out") {
+            result.out = value();
+        } else if (word == "--window") {
+            result.onDisplay = true;
+        } else if (word == "--front") {
+            const std::string& front = value();
+            if (front != "scripted" && front != "qt") {
+                Refuse("--front takes scripted or qt, not " + front);
+            }
+            result.frontEnd = front == "qt" ? FrontEnd::Qt : FrontEnd::Scripted;
+            result.frontEndNamed = true;
+        } else if (word.rfind("--", 0) == 0) {
+            Refuse("unknown option " + word);
+        } else {
+            names.push_back(word);
+        }
+    }
+    if (!names.empty() && names.front() == "run") {
+        if (names.size() != 3) {
+            Refuse("run takes a road and a study");
+        }
+        if (names[1] != "contour") {
+            Refuse("unknown road " + names[1] + ", expected contour");
+        }
+        result.task = Task::Run;
+        result.road = names[1];
+        result.study = names[2];
+        if (!result.frontEndNamed && (result.onDisplay || result.script.empty())) {
+            result.frontEnd = FrontEnd::Qt;
+        }
+        return result;
+    }
+    if (names.size() > 1) {
+        Refuse("one study at a time, not also " + names[1]);
+    }
+    result.study = names.empty() ? std::string() : names.front();
+    return result;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    enum class Task { Window, Run, Help };
+    enum class FrontEnd { Scripted, Qt };
+
+    Task task = Task::Window;
+    std::string road;         ///< of Run, "contour"
+    std::string study;        ///< file of the study; of Window may be empty
+    std::string script;       ///< empty for a person in front of real windows
+    std::string out = "out";  ///< folder for what a run leaves
+    bool onDisplay = false;   ///< windows on the display, not offscreen
+    FrontEnd frontEnd = FrontEnd::Scripted;
+    bool frontEndNamed = false;
+
+    /// Throws kvopt::InvalidArgument, which says which word is wrong and what was expected.
+    static CommandLine Parse(const std::vector<std::string>& words);
+    static const char* Usage();
+};
