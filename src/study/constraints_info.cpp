@@ -1,0 +1,7 @@
+#include "kvopt/study/constraints_info.h"
+
+namespace kvopt {
+
+ConstraintsInfo::~ConstraintsInfo() = default;
+
+}  // namespace kvopt

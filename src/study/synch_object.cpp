@@ -1,0 +1,7 @@
+#include "kvopt/study/synch_object.h"
+
+namespace kvopt {
+
+SynchObject::~SynchObject() = default;
+
+}  // namespace kvopt
