@@ -1,12 +1,13 @@
 #pragma once
 
 /// \file
-/// Texts of the pages that choose responses and other items.
+/// Texts of the selection of responses and other items, and of the pages that choose them.
 
 #include "kvopt/text/literal.h"
 
 namespace kvopt::texts {
 
+inline constexpr PlainText kSelectionResponses{"responses"};
 inline constexpr FormatText<1> kSelectTitle{"Select %s"};
 inline constexpr FormatText<1> kSelectHeading{"Select the %s you want to display."};
 inline constexpr FormatText<1> kAvailableLabel{"Available %s:"};

@@ -73,6 +73,8 @@ public:
     /// A design space plot stays one, whatever the argument; whether there are contour labels
     /// follows the argument.
     void SetPlotType(Type type);
+    /// Whether plots of this type have contour labels.
+    static bool HasContourLabels(Type type);
     AxisType GetAxisType() const { return axisType_; }
     void SetAxisType(AxisType type) { axisType_ = type; }
     /// What the plot is called; a literal, empty for an unknown type.
@@ -121,6 +123,7 @@ public:
     bool ReadSection(const ConfigurationSection* section);
 
 private:
+    void ReadGeneralSettings();
     bool ReadRequired(const ConfigurationSection& section);
     void ReadOptional(const ConfigurationSection& section);
     void ReadLevels(const ConfigurationSection& section, const ConfigurationSection& outer);

@@ -69,9 +69,10 @@ protected:
     virtual void InitAxisInfo();
 
 private:
+    AxisType KnownAxisType() const;
+    std::string ReadAxisName(IniFileSection& ini, PlotAxisType type, int position) const;
     void InitPlotAxis(IniFileSection& ini, int set, int position, PlotAxisType type);
     void InitExtraAxis(IniFileSection& ini, int pass, int position);
-    void InitQuantitativeAxis(IniFileSection& ini, AxisInfo& axis, const FactorClass& factor);
 
     std::unique_ptr<ContourPageData> contourTypeData_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@ namespace kvopt {
 
 class ConfigurationSection;
 class FactorClass;
+class IniFactorConstant;
 class IniFileSection;
 class Investigation;
 class ReportOverRideOptions;
@@ -87,6 +89,8 @@ public:
     /// many there were.
     int RemoveIllegalAxes(const char* response, int set, int numAxes);
 
+    /// Whether there is an ini section, without which writing settings throws InvalidArgument.
+    bool HasIniSection() const { return iniSection_ != nullptr; }
     /// Remembers the axes and the constants in the study's ini file; not flushed.
     void WriteSettings(PlotAxisType type, int set, int numAxes) const;
     /// A saved plot. Reading answers false without the section of the type, and at an axis whose
@@ -109,23 +113,34 @@ protected:
     std::shared_ptr<IniFileSection> IniForReading() const;
     /// The ini section; without one, InvalidArgument with the name of the operation.
     IniFileSection& IniForWriting(const char* operation) const;
-    /// Range or settings of an axis, into the ini section of the axis's factor. Nothing for an axis
-    /// without a name.
-    void WriteAxisRange(IniFileSection& ini, const AxisInfo& axis) const;
+    /// One axis: its name under the key of a position in the section of the type, and its range or
+    /// its settings in the section of its factor. Without a name only the former.
+    void WriteAxis(IniFileSection& ini, PlotAxisType type, int keyPosition,
+                   const AxisInfo& axis) const;
+    /// Name and range of a quantitative factor, from the factor's section, which `ini` stands in. A
+    /// limit that is not there is the factor's own.
+    static void ReadRange(IniFileSection& ini, AxisInfo& axis, const FactorClass& factor);
+    /// The settings in the factor's section, which `ini` stands in; empty when there are none.
+    static std::string ReadQualitativeSettings(IniFileSection& ini);
     /// The axis at a position of a set; null when there is none.
     AxisInfo* FindAxis(int set, int position) const;
 
 private:
+    std::size_t SetIndex(int set) const;
     void InitAxisDefaults();
     void OrderDefaultsByContribution();
     void DropUnavailableDefaults();
     void InitConstInfo();
-    void InitQuantitativeConstant(const FactorClass& factor, float start, double remembered);
+    void InitQuantitativeConstant(const FactorClass& factor, float start,
+                                  const IniFactorConstant& remembered);
     void InitQualitativeConstant(const FactorClass& factor, float start,
-                                 const std::string& remembered);
+                                 const IniFactorConstant& remembered);
+    void AllocateConstants(int capacity);
     void AddConstant(const FactorConstants::Constant& constant);
     bool IsStored(const FactorClass& factor) const;
-    FactorConstants::Constant StoredConstant(const FactorClass& factor) const;
+    FactorConstants::Constant DefaultConstant(const FactorClass& factor) const;
+    bool ReadAxes(const ConfigurationSection& section, int set, int numAxes);
+    bool ReadConstants(const ConfigurationSection& section);
 
     Investigation* investigation_;
     std::shared_ptr<IniFileSection> iniSection_;
@@ -140,6 +155,7 @@ private:
     std::vector<std::shared_ptr<AxisInfo>> axisDefaults_;
     int numDefaults_ = 0;
     std::shared_ptr<FactorConstants::Constant[]> constants_;
+    int constantCapacity_ = 0;
 };
 
 }  // namespace kvopt
