@@ -196,7 +196,8 @@ private:
     bool Step(const std::string& step) {
         Desktop::Instance().Note(name_ + "." + step);
         if (const auto found = also.find(step); found != also.end()) {
-            found->second();
+            const std::function<void()> hook = found->second;  // which may take itself away
+            hook();
         }
         return true;
     }

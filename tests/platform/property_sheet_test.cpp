@@ -243,7 +243,8 @@ TEST_F(PropertySheet, ShowsBoxAndFocusOfARefusalAlsoWhenTheActivePageStays) {
     a.applyAnswer = false;
     Run({[&] { sheet.UserSelectPage(1); }, [&] { Log(); },
          [&] {
-             b.also["OnKillActive"] = [this, calls = 0]() mutable { b.killAnswer = ++calls == 1; };
+             int kills = 0;
+             b.also["OnKillActive"] = [&] { b.killAnswer = ++kills == 1; };
              sheet.UserOk();
              EXPECT_THAT(Log(), ElementsAre("b.OnKillActive", "a.OnApply", "b.OnKillActive",
                                             "focus 90001:10", "box 16 \"Sheet\" \"Wrong\" -> ok"));
