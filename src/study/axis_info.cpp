@@ -1,6 +1,7 @@
 #include "kvopt/study/axis_info.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "kvopt/stores.h"
 #include "kvopt/text.h"
@@ -15,6 +16,10 @@ auto FindName(Axes& axes, const std::string& name) {
     return std::find_if(axes.begin(), axes.end(), [&name](const std::shared_ptr<AxisInfo>& axis) {
         return axis != nullptr && axis->Compare(name.c_str()) == 0;
     });
+}
+
+bool IsLimit(float value) {
+    return value != kNotSetF && std::isfinite(value);
 }
 
 }  // namespace
@@ -70,7 +75,7 @@ AxisInfo::AxisError AxisInfoImpl::IsLegalAxis() {
     if (qualitative_) {
         return NumSettings() > 0 ? NoAxisError : NoSettings;
     }
-    if (min_ == kNotSetF || max_ == kNotSetF) {
+    if (!IsLimit(min_) || !IsLimit(max_)) {
         return NoRange;
     }
     return min_ < max_ ? NoAxisError : ReversedRange;
@@ -86,7 +91,7 @@ void AxisInfoImpl::WriteSection(ConfigurationSection* section) const {
 }
 
 bool AxisInfoImpl::ReadSection(const ConfigurationSection* section) {
-    if (!section->ReadKey("Name", name_)) {
+    if (section == nullptr || !section->ReadKey("Name", name_)) {
         return false;
     }
     section->ReadKey("Unit", unit_);

@@ -4,6 +4,7 @@
 
 #include "kvopt/study/investigation.h"
 #include "kvopt/study/label_types.h"
+#include "kvopt/study/response_manager.h"
 #include "kvopt/study/variables.h"
 
 namespace kvopt {
@@ -37,8 +38,8 @@ std::vector<std::string> WorksheetData::Columns() const {
     for (const FactorClass* factor : investigation_->GetVariables()->GetAllFactors()) {
         names.push_back(factor->name);
     }
-    for (const ResponseClass* response : investigation_->GetVariables()->GetAllResponses()) {
-        names.push_back(response->name);
+    for (const ResponseEx* response : *investigation_->GetResponseManager()) {
+        names.push_back(response->GetName());
     }
     return names;
 }

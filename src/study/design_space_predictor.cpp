@@ -5,7 +5,7 @@
 namespace kvopt {
 
 DesignSpacePredictor::DesignSpacePredictor(Investigation* investigation)
-    : investigation_(investigation) {}
+    : investigation_(investigation), options_(investigation) {}
 
 DesignSpacePredictor::~DesignSpacePredictor() = default;
 

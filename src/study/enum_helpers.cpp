@@ -279,7 +279,7 @@ bool CIntervalType::ReadSection(const ConfigurationSection* section, IntervalTyp
 bool CIntervalType::ReadSection(const ConfigurationSection* section, const char* key,
                                 IntervalType& value) {
     std::string text;
-    if (!section->ReadKey(key, text) || GetEnum(text) == Unknown) {
+    if (section == nullptr || !section->ReadKey(key, text) || GetEnum(text) == Unknown) {
         return false;
     }
     value = GetEnum(text);
@@ -300,7 +300,8 @@ void CEVecType::WriteSection(ConfigurationSection* section, EVT value) {
 
 bool CEVecType::ReadSection(const ConfigurationSection* section, EVT& value) {
     int number = 0;
-    if (!section->ReadKey("VectorType", number) || number < 0 || number > kLastVector) {
+    if (section == nullptr || !section->ReadKey("VectorType", number) || number < 0 ||
+        number > kLastVector) {
         return false;
     }
     value = static_cast<EVT>(number);

@@ -39,7 +39,7 @@ template <class Enum, std::size_t Count>
 bool ReadNumber(const EnumText<Enum> (&table)[Count], const ConfigurationSection* section,
                 const char* key, Enum& value) {
     int number = 0;
-    if (!section->ReadKey(key, number)) {
+    if (section == nullptr || !section->ReadKey(key, number)) {
         return false;
     }
     for (const auto& entry : table) {

@@ -10,6 +10,25 @@
 
 namespace kvopt {
 
+namespace {
+
+/// The levels in use in ascending order; empty for a factor without levels.
+std::vector<double> Levels(const FactorClass& factor) {
+    std::vector<double> levels;
+    if (CEType::IsList(factor.factorValue.type) && !factor.IsQualitative()) {
+        for (const int setting : factor.GetIncludedSettings()) {
+            double level = kNotSet;
+            if (KvString::ToDouble(factor.GetSetting(setting), level)) {
+                levels.push_back(level);
+            }
+        }
+        std::sort(levels.begin(), levels.end());
+    }
+    return levels;
+}
+
+}  // namespace
+
 int FactorValue::GetSettingIndex(const std::string& setting) const {
     const auto found = std::find(settings.begin(), settings.end(), setting);
     return found != settings.end() ? static_cast<int>(found - settings.begin()) + 1 : 0;
@@ -45,11 +64,15 @@ bool FactorClass::IsDesignFactor() const {
 }
 
 double FactorClass::GetLow(bool originalUnits) const {
-    return originalUnits ? low : -1.0;
+    const std::vector<double> levels = low == kNotSet ? Levels(*this) : std::vector<double>();
+    const double limit = levels.empty() ? low : levels.front();
+    return originalUnits || limit == kNotSet ? limit : -1.0;
 }
 
 double FactorClass::GetHigh(bool originalUnits) const {
-    return originalUnits ? high : 1.0;
+    const std::vector<double> levels = high == kNotSet ? Levels(*this) : std::vector<double>();
+    const double limit = levels.empty() ? high : levels.back();
+    return originalUnits || limit == kNotSet ? limit : 1.0;
 }
 
 double FactorClass::GetCenterpoint(bool originalUnits, double lowLimit, double highLimit) const {
@@ -59,21 +82,11 @@ double FactorClass::GetCenterpoint(bool originalUnits, double lowLimit, double h
         return kNotSet;
     }
     const double middle = from + (to - from) / 2.0;
-    if (!CEType::IsList(factorValue.type) || !originalUnits) {
-        return middle;
-    }
-    double nearest = middle;
-    double distance = HUGE_VAL;
-    for (const int setting : GetIncludedSettings()) {
-        double level = kNotSet;
-        if (KvString::ToDouble(GetSetting(setting), level) &&
-            (std::fabs(level - middle) < distance ||
-             (std::fabs(level - middle) == distance && level < nearest))) {
-            distance = std::fabs(level - middle);
-            nearest = level;
-        }
-    }
-    return nearest;
+    const std::vector<double> levels = originalUnits ? Levels(*this) : std::vector<double>();
+    const auto isNearer = [middle](double a, double b) {
+        return std::fabs(a - middle) < std::fabs(b - middle);
+    };
+    return levels.empty() ? middle : *std::min_element(levels.begin(), levels.end(), isNearer);
 }
 
 std::string FactorClass::GetSetting(int settingIndex) const {
@@ -98,28 +111,21 @@ std::vector<int> FactorClass::GetIncludedSettings() const {
 }
 
 bool FactorClass::LegalSetting(const std::string& setting) const {
-    const auto isSetting = [this](auto&& matches) {
+    if (IsQualitative()) {
         const std::vector<int> included = GetIncludedSettings();
         return std::any_of(included.begin(), included.end(),
-                           [&](int at) { return matches(GetSetting(at)); });
-    };
-    if (IsQualitative()) {
-        return isSetting([&](const std::string& own) { return own == setting; });
+                           [&](int at) { return GetSetting(at) == setting; });
     }
     double value = kNotSet;
     if (!KvString::ToDouble(setting, value)) {
         return false;
     }
-    if (CEType::IsList(factorValue.type)) {
-        return isSetting([value](const std::string& text) {
-            double level = kNotSet;
-            return KvString::ToDouble(text, level) && level == value;
-        });
-    }
     // An edit shows six digits of a limit, which may lie just outside it.
     const std::string trimmed = KvStdString::Trim(setting);
-    const bool aboveLow = low == kNotSet || value >= low || trimmed == KvString::FormatG(low);
-    const bool belowHigh = high == kNotSet || value <= high || trimmed == KvString::FormatG(high);
+    const double least = GetLow(true);
+    const double most = GetHigh(true);
+    const bool aboveLow = least == kNotSet || value >= least || trimmed == KvString::FormatG(least);
+    const bool belowHigh = most == kNotSet || value <= most || trimmed == KvString::FormatG(most);
     return aboveLow && belowHigh;
 }
 

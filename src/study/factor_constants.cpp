@@ -1,6 +1,7 @@
 #include "kvopt/study/factor_constants.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <string_view>
 
@@ -16,6 +17,15 @@ constexpr double kSamePosition = 1e-6;
 
 const char* const* NamesOr(const char* const* names) {
     return names != nullptr ? names : kPositionNames.data();
+}
+
+/// The shortest text that reads back to the same float: a center that was computed shows no digits
+/// beyond those that pages read.
+std::string ShortText(double value) {
+    std::array<char, 32> buffer{};
+    const auto result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<float>(value));
+    return {buffer.data(), result.ptr};
 }
 
 }  // namespace
@@ -141,8 +151,8 @@ double GetQuantitativeFloatValue(const Variables& variables, const FactorClass* 
         case HIGH:
             return factor->GetHigh(true);
         case REF:
-            return factor->IsMixture()
-                       ? variables.GetMixtureReferenceRegulated(factor->name, "", kNotSet, false)
+            return factor->IsMixture() || factor->factorValue.type == CEType::Filler
+                       ? variables.GetMixtureReferenceRegulated(factor->name, "", kNotSet, true)
                        : factor->GetCenterpoint(true, kNotSet, kNotSet);
         case CUSTOM:
         case NO_SETTING:
@@ -160,7 +170,7 @@ void CenterValue(const Variables& variables, const FactorClass* factor, SettingT
     if (!factor->IsQualitative()) {
         const double value = GetQuantitativeFloatValue(variables, factor, position);
         if (value != kNotSet) {
-            text = KvString::FromDouble(value);
+            text = ShortText(value);
         }
         return;
     }

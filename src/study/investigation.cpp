@@ -16,6 +16,8 @@ namespace kvopt {
 
 namespace {
 
+constexpr const char* kOptionsSection = "Options";
+
 Investigation* activeInvestigation = nullptr;
 
 bool Holds(const std::vector<std::string>& names, const std::string& name) {
@@ -24,14 +26,17 @@ bool Holds(const std::vector<std::string>& names, const std::string& name) {
 
 }  // namespace
 
+/// The services of a host that has none of its own. Those that read the study's settings are made
+/// when they are first wanted: the host is not yet there while its base is built.
 struct Investigation::Defaults {
     explicit Defaults(Investigation* investigation)
-        : models(investigation), designSpace(investigation), modelSpec(investigation) {}
+        : owner(investigation), models(investigation), modelSpec(investigation) {}
 
+    Investigation* owner;
     ModelQueries models;
-    DesignSpacePredictor designSpace;
+    std::unique_ptr<DesignSpacePredictor> designSpace;
     ModelSpec modelSpec;
-    KivexOptions options;
+    std::unique_ptr<KivexOptions> options;
     std::shared_ptr<StandardLabelTitles> labelTitles = std::make_shared<StandardLabelTitles>();
     ConfigurationStore settings;
     std::vector<std::string> selected;
@@ -40,14 +45,24 @@ struct Investigation::Defaults {
 Investigation::Investigation()
     : favouriteSetpoint(this), defaults_(std::make_unique<Defaults>(this)) {}
 
-Investigation::~Investigation() = default;
+Investigation::~Investigation() {
+    if (activeInvestigation == this) {
+        activeInvestigation = nullptr;
+    }
+}
 
 const FitInfo* Investigation::GetFitInfo(const std::string& /*response*/) const {
     return nullptr;
 }
 
 std::vector<const FitInfo*> Investigation::GetAllFitInfos() const {
-    return {};
+    std::vector<const FitInfo*> fits;
+    for (const ResponseEx* response : *GetResponseManager()) {
+        if (const FitInfo* fit = GetFitInfo(response->GetName())) {
+            fits.push_back(fit);
+        }
+    }
+    return fits;
 }
 
 ConstraintsInfo* Investigation::GetConstraints() const {
@@ -75,11 +90,22 @@ std::unique_ptr<ConfigurationSection> Investigation::GetInvestigationSettings(
 }
 
 DesignSpacePredictor* Investigation::GetDesignSpacePredictor() const {
-    return &defaults_->designSpace;
+    if (defaults_->designSpace == nullptr) {
+        defaults_->designSpace = std::make_unique<DesignSpacePredictor>(defaults_->owner);
+    }
+    return defaults_->designSpace.get();
 }
 
 KivexOptions* Investigation::GetOptions() const {
-    return &defaults_->options;
+    if (defaults_->options == nullptr) {
+        defaults_->options = std::make_unique<KivexOptions>();
+        const std::unique_ptr<const ConfigurationSection> section =
+            IniFileFactory::Instance()->GetIniFile(GetIniFileName(), kOptionsSection);
+        if (section != nullptr) {
+            defaults_->options->LoadOptions(*section);
+        }
+    }
+    return defaults_->options.get();
 }
 
 ModelSpec* Investigation::GetModelSpec() {

@@ -7,6 +7,25 @@
 #include "kvopt/study/variables.h"
 
 namespace kvopt {
+namespace {
+
+bool IsFiller(const FactorClass& factor) {
+    return factor.factorValue.type == CEType::Filler;
+}
+
+bool IsOfKind(const FactorClass& factor, CEVar which) {
+    switch (which) {
+        case CEVar::AllFactors:
+            return !IsFiller(factor);
+        case CEVar::ProcessFactors:
+            return !IsFiller(factor) && !factor.IsMixture();
+        case CEVar::MixtureFactors:
+            return factor.IsMixture();
+    }
+    return false;
+}
+
+}  // namespace
 
 ModelQueries::ModelQueries(const Investigation* investigation) : investigation_(investigation) {}
 
@@ -21,32 +40,42 @@ CFitMethod::FitMethod ModelQueries::GetFitMethod(bool /*selectedOnly*/) const {
 }
 
 int ModelQueries::GetUsedCount(CEVar which, int limit) const {
-    const Variables& variables = *investigation_->GetVariables();
-    int fillers = 0;
-    for (const FactorClass* factor : variables.GetAllFactors()) {
-        fillers += factor->factorValue.type == CEType::Filler ? 1 : 0;
+    if (investigation_ == nullptr) {
+        return 0;
     }
-    const int count = variables.GetCount(which) - (which == CEVar::ProcessFactors ? 0 : fillers);
-    return std::min(count, limit);
+    int count = 0;
+    for (const FactorClass* factor : investigation_->GetVariables()->GetAllFactors()) {
+        if (count < limit && IsOfKind(*factor, which) && IsFactorAvailable(factor, true, false)) {
+            ++count;
+        }
+    }
+    return count;
 }
 
-bool ModelQueries::IsFactorAvailable(const FactorClass* factor, bool /*inModel*/,
-                                     bool /*fittedOnly*/) const {
-    return factor != nullptr && factor->factorValue.type != CEType::Filler;
+bool ModelQueries::IsFactorAvailable(const FactorClass* factor, bool inModel,
+                                     bool fittedOnly) const {
+    return factor != nullptr && (!inModel || (!fittedOnly && !IsFiller(*factor)));
 }
 
 bool ModelQueries::IsResponseAvailable(const std::string& response, bool fittedOnly) const {
-    if (fittedOnly) {
+    if (investigation_ == nullptr || fittedOnly) {
         return false;
     }
     const std::vector<ResponseClass*> responses = investigation_->GetVariables()->GetAllResponses();
-    return std::any_of(responses.begin(), responses.end(),
-                       [&](const ResponseClass* known) { return known->name == response; }) ||
-           investigation_->GetResponseManager()->GetResponse(response) != nullptr;
+    const bool isOrdinary = std::any_of(
+        responses.begin(), responses.end(),
+        [&](const ResponseClass* candidate) { return candidate->GetName() == response; });
+    return isOrdinary || investigation_->GetResponseManager()->GetResponse(response) != nullptr;
 }
 
-bool ModelQueries::IsInAnyModel(int /*factorIndex*/) const {
-    return true;
+bool ModelQueries::IsInAnyModel(int factorIndex) const {
+    if (investigation_ == nullptr) {
+        return false;
+    }
+    const std::vector<FactorClass*> factors = investigation_->GetVariables()->GetAllFactors();
+    return std::any_of(factors.begin(), factors.end(), [&](const FactorClass* factor) {
+        return factor->index == factorIndex && IsFactorAvailable(factor, true, false);
+    });
 }
 
 std::shared_ptr<TermInfo> ModelQueries::CreateCompleteModel() const {

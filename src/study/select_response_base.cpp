@@ -42,7 +42,8 @@ void SelectResponseBase::GetSelResponses(std::vector<std::string>& responses) co
 }
 
 std::string SelectResponseBase::GetResponse() const {
-    return selected_.empty() ? std::string() : selected_.front();
+    const std::vector<std::string> selected = GetSelResponses();
+    return selected.empty() ? std::string() : selected.front();
 }
 
 bool SelectResponseBase::NextResponse() {
@@ -74,7 +75,7 @@ void SelectResponseBase::WriteSection(ConfigurationSection* section,
 bool SelectResponseBase::ReadSection(const ConfigurationSection* section,
                                      std::vector<std::string>& responses, bool& allSelected,
                                      ResponseType& type) {
-    const auto own = section->HasSection(kSection, true) ? section->GetSection(kSection) : nullptr;
+    const auto own = section != nullptr ? section->GetSection(kSection) : nullptr;
     if (own == nullptr) {
         return false;
     }

@@ -36,14 +36,14 @@ SimplexProperties::SimplexProperties(const Investigation* investigation) {
     const auto read = [investigation](const char* key, bool& value) {
         value = Read(investigation, key, value);
     };
-    read("ShowRiskColumnAlternative", showRiskColumnAlternative);
-    read("ShowCpkColumnAlternative", showCpkColumnAlternative);
-    read("ShowCpColumnAlternative", showCpColumnAlternative);
-    read("ShowKPrimeColumnAlternative", showKPrimeColumnAlternative);
-    read("ShowRiskColumnSetpoint", showRiskColumnSetpoint);
-    read("ShowCpkColumnSetpoint", showCpkColumnSetpoint);
-    read("ShowCpColumnSetpoint", showCpColumnSetpoint);
-    read("ShowKPrimeColumnSetpoint", showKPrimeColumnSetpoint);
+    read("ShowDPMOASColumn", showRiskColumnAlternative);
+    read("ShowCpkASColumn", showCpkColumnAlternative);
+    read("ShowCpASColumn", showCpColumnAlternative);
+    read("ShowKPrimASColumn", showKPrimeColumnAlternative);
+    read("ShowDPMOSSColumn", showRiskColumnSetpoint);
+    read("ShowCpkSSColumn", showCpkColumnSetpoint);
+    read("ShowCpSSColumn", showCpColumnSetpoint);
+    read("ShowKPrimSSColumn", showKPrimeColumnSetpoint);
 }
 
 bool SimplexProperties::GetIncludeWeightInLogD(const Investigation* investigation) {
@@ -84,7 +84,7 @@ void SimplexProperties::SetFactorContributionsRange(const Investigation* investi
 
 bool SimplexProperties::GetAnalyzeSensitivity(const Investigation* investigation,
                                               bool& includeModelError, int& iterations) {
-    includeModelError = Read(investigation, "SensitivityIncludeModelError", true);
+    includeModelError = Read(investigation, "IncludeModelError", true);
     iterations = Read(investigation, "SensitivityIterations", kDefaultIterations);
     return Read(investigation, "AnalyzeSensitivity", true);
 }

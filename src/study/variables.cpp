@@ -17,6 +17,13 @@ std::string NameAt(const std::vector<FactorClass*>& factors, int index) {
                : std::string();
 }
 
+FactorClass* FindName(const std::vector<FactorClass*>& factors, const std::string& name) {
+    const auto found = std::find_if(factors.begin(), factors.end(), [&](const FactorClass* factor) {
+        return factor->name == name;
+    });
+    return found != factors.end() ? *found : nullptr;
+}
+
 template <class Predicate>
 bool AnyFactor(const Variables& variables, Predicate predicate) {
     const std::vector<FactorClass*> factors = variables.GetAllFactors();
@@ -68,12 +75,7 @@ const FactorClass* Variables::GetIndexFactor(int index) const {
 }
 
 FactorClass* Variables::GetFactor(const std::string& name) const {
-    for (FactorClass* factor : GetAllFactors()) {
-        if (factor->name == name) {
-            return factor;
-        }
-    }
-    return nullptr;
+    return FindName(GetAllFactors(), name);
 }
 
 FactorClass* Variables::GetFactor(const std::string& name) {
@@ -173,27 +175,46 @@ double Variables::GetMixtureTotal() const {
 
 double Variables::GetMixtureReferenceRegulated(const std::string& factor,
                                                const std::string& fixedFactor, double fixedValue,
-                                               bool /*pseudo*/) const {
-    // The reference mixture is the middle of every range, in proportion.
-    double sum = 0.0;
-    double own = kNotSet;
-    double rest = GetMixtureTotal();
-    for (const FactorClass* part : GetAllFactors()) {
-        if (!IsPart(*part)) {
-            continue;
-        }
-        if (part->name == fixedFactor && fixedValue != kNotSet) {
-            if (factor == fixedFactor) {
-                return fixedValue;
-            }
-            rest -= fixedValue;
-            continue;
-        }
-        const double center = part->GetCenterpoint(true, kNotSet, kNotSet);
-        sum += center != kNotSet ? center : 0.0;
-        own = part->name == factor ? center : own;
+                                               bool originalUnits) const {
+    // Each part goes the same way between its limits: x = low + t (high - low), with t such that
+    // the parts sum to the total. A part without limits may be anything from 0 to the total.
+    const double total = GetMixtureTotal();
+    double lowSum = 0.0;
+    double highSum = 0.0;
+    std::vector<FactorClass*> mixture = GetAllFactors();
+    mixture.erase(std::remove_if(mixture.begin(), mixture.end(),
+                                 [](const FactorClass* part) { return !IsPart(*part); }),
+                  mixture.end());
+    const auto lowOf = [](const FactorClass& part) {
+        const double limit = part.GetLow(true);
+        return limit != kNotSet ? limit : 0.0;
+    };
+    const auto highOf = [&](const FactorClass& part) {
+        const double limit = part.GetHigh(true);
+        return limit != kNotSet ? limit : total;
+    };
+    for (const FactorClass* part : mixture) {
+        lowSum += lowOf(*part);
+        highSum += highOf(*part);
     }
-    return own == kNotSet || sum == 0.0 ? kNotSet : own * rest / sum;
+    const double way = highSum > lowSum ? (total - lowSum) / (highSum - lowSum) : 0.0;
+    const auto reference = [&](const FactorClass& part) {
+        return lowOf(part) + std::clamp(way, 0.0, 1.0) * (highOf(part) - lowOf(part));
+    };
+    const FactorClass* asked = FindName(mixture, factor);
+    if (asked == nullptr) {
+        return kNotSet;
+    }
+    double value = reference(*asked);
+    const FactorClass* fixed = fixedValue != kNotSet ? FindName(mixture, fixedFactor) : nullptr;
+    if (fixed == asked) {
+        value = fixedValue;
+    } else if (fixed != nullptr) {
+        const double others = total - reference(*fixed);
+        value = others > 0.0 ? value * (total - fixedValue) / others
+                             : (total - fixedValue) / static_cast<double>(mixture.size() - 1);
+    }
+    return originalUnits ? value : GetPseudoComponent(asked, value, true);
 }
 
 }  // namespace kvopt

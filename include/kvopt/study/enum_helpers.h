@@ -7,7 +7,8 @@
 /// All are of one shape. `GetString` gives the stored text of a value, empty for a number outside
 /// the enumeration; `GetEnum` knows every such text exactly and answers `Unknown` for any other.
 /// `WriteSection` writes one key, the helper's own unless another is named; `ReadSection` answers
-/// false, and leaves the value alone, when the key is absent or holds no value of the enumeration.
+/// false, and leaves the value alone, when the key is absent or holds no value of the enumeration;
+/// a null section holds no key.
 
 #include <string>
 #include <string_view>

@@ -101,9 +101,9 @@ KVOPT_EXPORT SettingType WhichSetting(const Variables& variables, const FactorCl
 /// where the factor has no such limit.
 KVOPT_EXPORT double GetQuantitativeFloatValue(const Variables& variables, const FactorClass* factor,
                                               SettingType position);
-/// The text of a position: the shortest text of its value, empty for kNotSet. Of a qualitative
-/// factor the first, the last, and for REF the middle one of the settings in use (the earlier of
-/// two).
+/// The text of a position: the shortest text that reads back to its value as a float, empty for
+/// kNotSet. Of a qualitative factor the first, the last, and for REF the middle one of the settings
+/// in use (the earlier of two); empty for the other positions.
 KVOPT_EXPORT void CenterValue(const Variables& variables, const FactorClass* factor,
                               SettingType position, std::string& text);
 /// Position to text: "LOW", "REF", "HIGH", "CUSTOM", "NO_SETTING", or the five texts of `names`

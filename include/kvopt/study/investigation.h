@@ -25,8 +25,8 @@ class Variables;
 /// The study, as the host keeps it. It outlives every argument object and page that is given it.
 ///
 /// A host derives from it and has to give its variables and its responses. Every other operation
-/// has a default: a study without models, constraints or blocks, whose options live in memory and
-/// whose settings live in the ini file that it names. Everything pointed to belongs to the study.
+/// has a default: a study without models, constraints or blocks, whose options and settings live
+/// in the ini file that it names. Everything pointed to belongs to the study.
 class KVOPT_EXPORT Investigation {
 public:
     Investigation();
@@ -53,8 +53,8 @@ public:
     /// The name of the study's ini file; empty for none.
     virtual std::string GetIniFileName() const;
     /// A section of the study's own settings, owned by the caller; created when it is written to.
-    /// By default the section of this name in the ini file, or one that is kept nowhere when there
-    /// is no file. Never null.
+    /// By default the section of this name in the ini file, or one in memory that lives as long as
+    /// the study when there is no file. Never null.
     virtual std::unique_ptr<ConfigurationSection> GetInvestigationSettings(const char* name,
                                                                            bool readOnly) const;
 

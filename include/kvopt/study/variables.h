@@ -82,11 +82,12 @@ public:
     virtual double GetMixtureTotal() const;
     /// The part of a factor in the reference mixture, regulated so that all parts sum to the total.
     /// With `fixedFactor` named and `fixedValue` set, that factor is held there and the others make
-    /// up the rest in the proportions of the reference; `pseudo` asks for pseudo-components.
-    /// kNotSet for what is no mixture factor.
+    /// up the rest in the proportions of the reference. With `originalUnits` false the answer is in
+    /// pseudo-components, which GetPseudoComponent() brings back. kNotSet for what is no mixture
+    /// factor.
     virtual double GetMixtureReferenceRegulated(const std::string& factor,
                                                 const std::string& fixedFactor, double fixedValue,
-                                                bool pseudo) const;
+                                                bool originalUnits) const;
 };
 
 }  // namespace kvopt
