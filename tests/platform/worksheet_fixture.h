@@ -65,7 +65,11 @@ public:
 class WorksheetTest : public ControlsTest {
 protected:
     WorksheetTest() { worksheet.AddListener(&view); }
-    ~WorksheetTest() override { worksheet.RemoveListener(&view); }
+    ~WorksheetTest() override {
+        if (view.gone == 0) {
+            worksheet.RemoveListener(&view);
+        }
+    }
 
     TestContent content;
     CountingView view;
