@@ -17,7 +17,6 @@ namespace kvopt {
 namespace {
 
 constexpr int kGridControl = 6139;
-constexpr int kAccelerators = 6359;
 
 int GridRows(const Investigation* models, const Variables& variables) {
     return models != nullptr ? ResponseModelUtilities(models).GetUsedCount(
@@ -31,7 +30,7 @@ Contour2DAxisPage::Contour2DAxisPage(const Investigation* investigation, const A
                                      unsigned templateNumber, BasePropertyPageHelper* helper,
                                      unsigned helpTopic)
     : AxisPage(investigation, arguments, templateNumber, helper, helpTopic),
-      accelerators_(AcceleratorTable::Find(kAccelerators)) {
+      accelerators_(AcceleratorTable::Find(kWorksheetAccelerators)) {
     const Investigation* models = AxisFilters::Of(investigation).Models();
     Variables* variables = investigation->GetVariables();
     auto chooser = std::make_unique<ContourConstantsChooser2>(variables, this, models);

@@ -71,6 +71,7 @@ public:
     double pseudoScale = 1.0;                  ///< what a pseudo-component stands for
     int usedFactors = 3;                       ///< what the models say they use
     mutable std::vector<FactorQuestion> questions;
+    mutable std::vector<std::pair<CEVar, int>> usedQuestions;
     mutable std::vector<std::string> legalQuestions;
     mutable std::vector<std::string> mixtureQuestions;
 
@@ -134,7 +135,8 @@ private:
     public:
         explicit Models(AxesStudy& study) : ModelQueries(&study), study_(study) {}
         bool HasModel() const override { return true; }
-        int GetUsedCount(CEVar, int limit) const override {
+        int GetUsedCount(CEVar which, int limit) const override {
+            study_.usedQuestions.emplace_back(which, limit);
             return std::min(limit, study_.usedFactors);
         }
         bool IsFactorAvailable(const FactorClass* factor, bool inModel,
