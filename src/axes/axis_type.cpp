@@ -22,12 +22,12 @@ bool AddProcessFactor::operator()(const FactorClass* factor, bool flag) const {
     }
     const CEType::EType type = TypeOf(*factor);
     if (type == CEType::Quantitative || type == CEType::Multilevel || type == CEType::Discrete) {
-        return UseFactor::operator()(factor, flag);
+        return IsInModels(factor, flag);
     }
     if (!variables_->IstrueFiller()) {
         return false;
     }
-    return type == CEType::Formulation && UseFactor::operator()(factor, flag);
+    return type == CEType::Formulation && IsInModels(factor, flag);
 }
 
 AddNonQualitativeFactor::AddNonQualitativeFactor(const Variables* variables,
@@ -38,14 +38,14 @@ bool AddNonQualitativeFactor::operator()(const FactorClass* factor, bool flag) c
     if (TypeOf(*factor) == CEType::Filler || factor->IsConstant() || factor->IsQualitative()) {
         return false;
     }
-    return UseFactor::operator()(factor, flag);
+    return IsInModels(factor, flag);
 }
 
 AddNonFiller::AddNonFiller(const Variables* variables, const Investigation* investigation)
     : UseFactor(investigation), variables_(variables) {}
 
 bool AddNonFiller::operator()(const FactorClass* factor, bool flag) const {
-    return TypeOf(*factor) != CEType::Filler && UseFactor::operator()(factor, flag);
+    return TypeOf(*factor) != CEType::Filler && IsInModels(factor, flag);
 }
 
 AddMixtureFactor::AddMixtureFactor(const Variables* variables, const Investigation* investigation)
@@ -55,7 +55,7 @@ bool AddMixtureFactor::operator()(const FactorClass* factor, bool flag) const {
     if (factor->IsConstant()) {
         return false;
     }
-    return factor->IsMixture() && UseFactor::operator()(factor, flag);
+    return factor->IsMixture() && IsInModels(factor, flag);
 }
 
 AddNonMixtureFactor::AddNonMixtureFactor(const Variables* variables,
@@ -66,14 +66,14 @@ bool AddNonMixtureFactor::operator()(const FactorClass* factor, bool flag) const
     if (TypeOf(*factor) == CEType::Filler || factor->IsConstant()) {
         return false;
     }
-    if (!UseFactor::operator()(factor, flag)) {
+    if (!IsInModels(factor, flag)) {
         return false;
     }
     if (factor->IsMixture() && !GetVariables()->IstrueFiller()) {
         return false;
     }
     // Asked again on purpose: a host that counts or logs the questions sees both.
-    return UseFactor::operator()(factor, flag);
+    return IsInModels(factor, flag);
 }
 
 }  // namespace kvopt::AxisType

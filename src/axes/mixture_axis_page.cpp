@@ -104,6 +104,7 @@ bool MixtureAxisPage::OnApply() {
         }
         Grid().SaveInterfaceValues();
     }
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): its parent's step is passed over on purpose
     return AxisPage::OnApply();
 }
 

@@ -7,6 +7,10 @@ namespace kvopt {
 UseFactor::~UseFactor() = default;
 
 bool UseFactor::operator()(const FactorClass* factor, bool flag) const {
+    return IsInModels(factor, flag);
+}
+
+bool UseFactor::IsInModels(const FactorClass* factor, bool flag) const {
     return investigation_ == nullptr ||
            ResponseModelUtilities(investigation_).IsFactorAvailable(factor, flag, false);
 }

@@ -20,6 +20,10 @@ public:
     /// handed on to the models, every caller passes true.
     virtual bool operator()(const FactorClass* factor, bool flag) const;
 
+protected:
+    /// The base test.
+    bool IsInModels(const FactorClass* factor, bool flag) const;
+
 private:
     const Investigation* investigation_;
 };
