@@ -107,7 +107,8 @@ private:
             study_.mixtureQuestions.push_back("reference " + factor + " '" + fixedFactor + "' " +
                                               (fixedValue == kNotSet ? "not set" : "set") +
                                               (pseudo ? " pseudo" : " plain"));
-            return study_.references.at(factor);
+            const auto found = study_.references.find(factor);
+            return found == study_.references.end() ? kNotSet : found->second;
         }
 
     private:

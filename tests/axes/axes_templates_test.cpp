@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -29,6 +30,10 @@ struct PageRow {
     std::size_t axes;
     bool hasGrid;
 };
+
+void PrintTo(const PageRow& row, std::ostream* out) {
+    *out << row.number;
+}
 
 class AxesTemplates : public testing::TestWithParam<PageRow> {
 protected:

@@ -244,8 +244,8 @@ TEST_F(AxisHelperTest, TakesTheDefaultsInOrder) {
     helper.Setup();
     EXPECT_EQ(Axes(), (Texts{"Time 10 50", "Temp 20 80"}));
     EXPECT_EQ(helper.Row(1), "Time|10|50");
-    EXPECT_EQ(helper.Options(1), (Texts{"Time", "Temp", "Speed"}));
-    EXPECT_EQ(helper.Options(2), (Texts{"Temp", "Time", "Speed"}));
+    EXPECT_EQ(helper.Options(1), (Texts{"Time", "Temp", "Speed", kNone}));
+    EXPECT_EQ(helper.Options(2), (Texts{"Temp", "Time", "Speed", kNone}));
     EXPECT_EQ(helper.fills, (std::vector<int>{1, 2}));
     EXPECT_TRUE(helper.selectedWasNull);
 }
@@ -323,7 +323,7 @@ TEST_F(AxisHelperTest, OffersTheNotUsedNameOnlyWhereTheAxisIsUnusedOrNothingFits
     axes = MakeAxes({{kNone}, {"Temp", 1, 2}});
     Helper helper(*this);
     helper.Setup();
-    EXPECT_EQ(helper.Options(1), (Texts{"Time", "Temp", kNone, "Speed"}));
+    EXPECT_EQ(helper.Options(1), (Texts{"Time", kNone, "Speed", "Temp"}));
     EXPECT_EQ(helper.Options(2), (Texts{"Temp", "Time", "Speed"}));
 }
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <limits>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -134,6 +135,10 @@ struct OfferRow {
     bool trueFiller;
     Texts offered;
 };
+
+void PrintTo(const OfferRow& row, std::ostream* out) {
+    *out << (row.trueFiller ? "with" : "without") << " true filler";
+}
 
 class Contour2DOffers : public Contour2DAxisPageTest,
                         public testing::WithParamInterface<OfferRow> {};

@@ -158,7 +158,7 @@ TEST_F(ContourAxisHelpersTest, OfferPartsOnOuterAxesWithATrueFiller) {
     Contour4DAxisHelper helper(&study, &Data(), ContourPageData::contour_4D);
     helper.Setup();
     EXPECT_EQ(Offers(helper, 4), (Texts{"A B C D Sp Te Ti ", "A B C D Sp Te Ti ",
-                                        "A B C D Co Sp Te Ti ", "A B C D Co Sp Te Ti "}));
+                                        "A B C Co D Sp Te Ti ", "A B C Co D Sp Te Ti "}));
 }
 
 TEST_F(ContourAxisHelpersTest, MakeAMixturePlotOfFiveAxes) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -137,6 +138,10 @@ struct ResponseRow {
     Texts inList;
     Texts inVector;
 };
+
+void PrintTo(const ResponseRow& row, std::ostream* out) {
+    *out << "type " << row.type;
+}
 
 class FillBoxResponses : public FillBoxTest, public testing::WithParamInterface<ResponseRow> {};
 
