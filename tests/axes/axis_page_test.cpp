@@ -236,6 +236,12 @@ TEST_F(AxisPageTest, ProposesTheFirstDefaultsThatNoAxisTook) {
     EXPECT_EQ(Rows(*Shown()), (Texts{"Temp|20|80", "Time|1|2", "Temp2|30|70"}));
 }
 
+TEST_F(AxisPageTest, BeginsWithTheDefaultAtElementOne) {
+    axes = MakeAxes({{}});
+    defaults[0] = defaults.back();
+    EXPECT_EQ(Rows(*Shown()), (Texts{"Time|10|50"}));
+}
+
 TEST_F(AxisPageTest, TreatsAnAxisBeyondTheSetAndAnEmptyPointerAsInNeed) {
     axes = MakeAxes({{"Temp", 3, 4}});
     axes.push_back(nullptr);
