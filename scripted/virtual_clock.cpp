@@ -1,7 +1,6 @@
 #include "kvopt/scripted/virtual_clock.h"
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace kvopt {
@@ -10,7 +9,7 @@ void VirtualClock::Start(Desktop::TimerId id, unsigned milliseconds,
                          std::function<void()> callback) {
     Stop(id);
     const unsigned interval = std::max(milliseconds, 1U);
-    timers_.push_back({id, interval, now_ + interval, started_++, std::move(callback)});
+    timers_.push_back({id, interval, now_ + interval, std::move(callback)});
 }
 
 void VirtualClock::Stop(Desktop::TimerId id) {
@@ -26,9 +25,8 @@ void VirtualClock::Advance(unsigned milliseconds) {
     const std::uint64_t end = now_ + milliseconds;
     while (true) {
         const auto next = std::min_element(
-            timers_.begin(), timers_.end(), [](const Timer& left, const Timer& right) {
-                return std::tie(left.due, left.order) < std::tie(right.due, right.order);
-            });
+            timers_.begin(), timers_.end(),
+            [](const Timer& left, const Timer& right) { return left.due < right.due; });
         if (next == timers_.end() || next->due > end) {
             break;
         }

@@ -243,15 +243,6 @@ TEST(UserScript, ReadsAFileAndNamesItInItsFaults) {
     EXPECT_THROW(UserScript::FromFile(std::filesystem::temp_directory_path().string()), FileError);
 }
 
-TEST(UserScript, ReadsTheExampleOfTheDocument) {
-    std::ifstream document(std::string(KVOPT_SOURCE_DIR) + "/docs/scripts.md");
-    const std::string text{std::istreambuf_iterator<char>(document),
-                           std::istreambuf_iterator<char>()};
-    const std::size_t begin = text.find("```\n", text.find("## An example")) + 4;
-    const std::size_t end = text.find("```", begin);
-    EXPECT_EQ(UserScript::FromText(text.substr(begin, end - begin)).Steps().size(), 14U);
-}
-
 TEST(UserScript, EveryVerbStandsInTheDocument) {
     std::ifstream document(std::string(KVOPT_SOURCE_DIR) + "/docs/scripts.md");
     const std::string text{std::istreambuf_iterator<char>(document),

@@ -29,12 +29,10 @@ private:
         Desktop::TimerId id;
         unsigned interval;
         std::uint64_t due;
-        std::uint64_t order;
         std::function<void()> callback;
     };
-    std::vector<Timer> timers_;
+    std::vector<Timer> timers_;  ///< in the order of their start
     std::uint64_t now_ = 0;
-    std::uint64_t started_ = 0;
 };
 
 }  // namespace kvopt
