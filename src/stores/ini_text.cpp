@@ -103,7 +103,6 @@ public:
 
     Document Parse() {
         root_ = std::make_unique<SectionNode>("", 1, nullptr);
-        root_->hasHeader = true;
         section_ = root_.get();
         std::size_t at = text_.substr(0, kByteOrderMark.size()) == kByteOrderMark ? 3 : 0;
         above_ = at;

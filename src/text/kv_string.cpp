@@ -74,8 +74,6 @@ bool ReadReal(std::string_view text, Number& value) {
             return false;
         }
         read = number.front() == '-' ? Number(-0.0) : Number(0.0);
-    } else if (std::isinf(read)) {
-        return false;
     }
     value = read;
     return true;

@@ -243,8 +243,12 @@ TEST_P(ConfigurationSectionTest, KeepsOrderAndFindsEachOfMany) {
     }
     root_->Clear();
     EXPECT_EQ(root_->ReadKeyOr("Factor 7", -1), -1);
-    root_->WriteKey("Factor 7", 8);
-    EXPECT_EQ(root_->ReadKeyOr("Factor 7", -1), 8);
+    for (int number = 299; number >= 0; --number) {
+        root_->WriteKey(("Factor " + std::to_string(number)).c_str(), -number);
+    }
+    for (int number = 0; number < 300; ++number) {
+        EXPECT_EQ(root_->ReadKeyOr(("Factor " + std::to_string(number)).c_str(), 1), -number);
+    }
 }
 
 TEST_P(ConfigurationSectionTest, RemovesAllSectionsOfAName) {

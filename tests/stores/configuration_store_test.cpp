@@ -143,6 +143,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadText{"Null", "null", "the document", "an object", "null"},
         BadText{"Number", "-1", "the document", "an object", "-1"},
         BadText{"NoFormat", "{}", "the document", "\"kvopt\", \"version\"", "none of them"},
+        BadText{"NoVersion", R"({"kvopt":"sections"})", "the document", "\"version\"",
+                "none of them"},
         BadText{"OtherFormat", R"({"kvopt":"study"})", "/kvopt", "\"sections\"", "\"study\""},
         BadText{"NewVersion", R"({"kvopt":"sections","version":2})", "/version", "version 1", "2"},
         BadText{"RealVersion", R"({"kvopt":"sections","version":1.5})", "/version", "version 1",

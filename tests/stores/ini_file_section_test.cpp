@@ -339,6 +339,19 @@ TEST_F(IniFileSectionTest, ReplaysRemovedAndNewSectionsOnWhatTheFileHoldsByThen)
     EXPECT_EQ(test::Slurp(file_), "[Kept]\nKey=1\n\n[Empty]\n");
 }
 
+TEST_F(IniFileSectionTest, LeavesAloneWhatItDidNotTouchSinceTheLastFlush) {
+    test::Spill(file_, "[A]\nKey=0\n[B]\nKey=0\n");
+    const auto section = Open("A");
+    section->WriteKey("Key", 1);
+    section->Flush();
+    test::Spill(file_, "[A]\nKey=5\n");
+    section->WriteKey("Other", 2);
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[A]\nKey=5\nOther=2\n");
+    section->SetSection("");
+    EXPECT_FALSE(section->HasSection("B", true)) << "another hand removed it";
+}
+
 TEST_F(IniFileSectionTest, BringsBackOnlyItsOwnChangesWhenTheFileWasDeleted) {
     Open("A")->WriteKey("Old", 1);
     const auto section = Open("A");

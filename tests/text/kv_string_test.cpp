@@ -92,6 +92,19 @@ TEST(KvString, RefusesAFloatThatOnlyADoubleHolds) {
     EXPECT_EQ(value, 0.1F);
 }
 
+TEST(KvString, TellsTooSmallFromTooLargeByAllDigits) {
+    double value = kNotSet;
+    EXPECT_TRUE(KvString::ToDouble("0." + std::string(400, '0') + "1", value));
+    EXPECT_EQ(value, 0.0);
+    EXPECT_TRUE(KvString::ToDouble("0." + std::string(400, '0') + "1e401", value));
+    EXPECT_EQ(value, 1.0);
+    EXPECT_FALSE(KvString::ToDouble(std::string(400, '9'), value));
+    EXPECT_FALSE(KvString::ToDouble(std::string(400, '9') + "e-5", value));
+    EXPECT_EQ(value, 1.0);
+    EXPECT_TRUE(KvString::ToDouble(std::string(400, '9') + "e-800", value));
+    EXPECT_EQ(value, 0.0);
+}
+
 TEST(KvString, RefusesTextsWithANul) {
     double value = kNotSet;
     EXPECT_FALSE(KvString::ToDouble(std::string_view("1\0", 2), value));
