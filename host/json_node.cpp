@@ -69,6 +69,23 @@ std::size_t EditDistance(std::string_view from, std::string_view to) {
     return row.back();
 }
 
+/// What is wrong, out of the parser's text: without the name of its exception, the position, which
+/// is told in the file's own terms, and what was read last, which may be no UTF-8.
+std::string Complaint(std::string_view what) {
+    const auto dropThrough = [&what](std::string_view end) {
+        const std::size_t at = what.find(end);
+        if (at != std::string_view::npos) {
+            what.remove_prefix(at + end.size());
+        }
+    };
+    dropThrough("] ");
+    constexpr std::string_view kPosition = "parse error at";
+    if (what.substr(0, kPosition.size()) == kPosition) {
+        dropThrough(": ");
+    }
+    return std::string(what.substr(0, what.find("; last read")));
+}
+
 /// Refuses what the document builder would take in silence: a key that stands twice in one object,
 /// of which the first would be lost, and nesting far beyond any study.
 class SyntaxCheck : public nlohmann::json_sax<json> {
@@ -101,15 +118,14 @@ public:
         return true;
     }
 
-    bool parse_error(std::size_t position, const std::string& /*lastToken*/,
+    bool parse_error(std::size_t position, const std::string& lastToken,
                      const json::exception& error) override {
-        const std::string what = error.what();
-        const std::size_t detail = what.rfind(": ");
-        const std::size_t start = what.find("] ");
-        const std::size_t cut = detail != std::string::npos ? detail : start;
+        std::string found = Complaint(error.what());
+        if (!lastToken.empty()) {
+            found += ", last read " + Quoted(lastToken);
+        }
         throw FileFormatError(fileName_, LineAndColumn(text_, position == 0 ? 0 : position - 1),
-                              "a JSON document",
-                              cut == std::string::npos ? what : what.substr(cut + 2));
+                              "a JSON document", found);
     }
 
 private:
@@ -120,9 +136,11 @@ private:
         std::set<std::string> keys;
     };
 
-    std::string Pointer() const {
+    /// To the element at hand, or to the one around it at the given depth.
+    std::string Pointer(std::size_t depth = kDeepest) const {
         std::string pointer;
-        for (const Level& level : levels_) {
+        for (std::size_t l = 0; l < std::min(depth, levels_.size()); ++l) {
+            const Level& level = levels_[l];
             pointer += level.isObject ? level.step : PointerStep(std::to_string(level.index));
         }
         return pointer;
@@ -137,7 +155,7 @@ private:
 
     bool Open(bool isObject) {
         if (levels_.size() == kDeepest) {
-            throw FileFormatError(fileName_, Pointer(),
+            throw FileFormatError(fileName_, PlaceInJson(text_, Pointer(1)),
                                   "objects and lists at most " + std::to_string(kDeepest) + " deep",
                                   "a deeper one");
         }
@@ -170,10 +188,13 @@ std::string Quoted(std::string_view text) {
 }
 
 std::string Hint(std::string_view wrong, const std::vector<std::string>& names) {
+    if (wrong.empty()) {
+        return {};
+    }
     const std::string folded = Folded(wrong);
     const std::string* best = nullptr;
-    std::size_t bestDistance =
-        std::max<std::size_t>(1, std::min<std::size_t>(3, wrong.size() / 2)) + 1;
+    // Half of a short text must not be guessed: "Q" is as far from "H" as from any other letter.
+    std::size_t bestDistance = std::min<std::size_t>(3, wrong.size() / 2) + 1;
     for (const std::string& name : names) {
         // Texts whose lengths differ by more than the limit cannot be within it.
         const std::size_t lengths =

@@ -61,6 +61,25 @@ DSResponseSettings CriterionOf(const StudyResponse& response) {
     return settings;
 }
 
+/// Takes what is saved as settings of a study into a store.
+class SettingsRecorder final : public Investigation {
+public:
+    SettingsRecorder(Variables& variables, ResponseManager& responses, ConfigurationStore& store)
+        : variables_(variables), responses_(responses), store_(store) {}
+
+    Variables* GetVariables() const override { return &variables_; }
+    ResponseManager* GetResponseManager() const override { return &responses_; }
+    std::unique_ptr<ConfigurationSection> GetInvestigationSettings(
+        const char* name, bool /*readOnly*/) const override {
+        return store_.Root()->GetSection(name);
+    }
+
+private:
+    Variables& variables_;
+    ResponseManager& responses_;
+    ConfigurationStore& store_;
+};
+
 }  // namespace
 
 struct ReferenceStudy::Parts {
@@ -72,7 +91,20 @@ struct ReferenceStudy::Parts {
           models(study, data),
           optimizer(study, data, mixture, models),
           constraints(data),
-          iniFileName(std::move(iniFile)) {}
+          iniFileName(std::move(iniFile)) {
+        const SettingsRecorder recorder(variables, responses, seeds);
+        if (data.designSpace) {
+            data.designSpace->SaveAsGlobalSettings(&recorder);
+        }
+        for (const auto& [name, keys] : data.settings) {
+            const auto section = recorder.GetInvestigationSettings(name.c_str(), false);
+            for (const auto& [key, value] : keys) {
+                std::visit([&section, name = key.c_str()](
+                               const auto& setting) { section->WriteKey(name, setting); },
+                           value);
+            }
+        }
+    }
 
     const StudyData data;
     const Mixture mixture;
@@ -82,22 +114,14 @@ struct ReferenceStudy::Parts {
     const ReferenceOptimizer optimizer;
     ReferenceConstraints constraints;
     std::string iniFileName;
-    ConfigurationStore settings;  ///< in use while there is no ini file
+    ConfigurationStore seeds;  ///< the settings that the study begins with
+    bool hasCriteria = false;
 };
 
 ReferenceStudy::ReferenceStudy(StudyData data, std::string iniFileName)
     : parts_(std::make_unique<Parts>(this, std::move(data), std::move(iniFileName))) {
     Investigation::SetSelectedResponses(parts_->data.selectedResponses);
     favouriteSetpoint.SetStart(StartOf(parts_->data));
-    DesignSpacePredictor* predictor = Investigation::GetDesignSpacePredictor();
-    if (parts_->data.designSpace) {
-        predictor->GetOptions() = *parts_->data.designSpace;
-    }
-    std::vector<DSResponseSettings>& criteria = predictor->GetResponseSettings();
-    criteria.clear();
-    for (const StudyResponse& response : parts_->data.responses) {
-        criteria.push_back(CriterionOf(response));
-    }
 }
 
 ReferenceStudy::~ReferenceStudy() = default;
@@ -148,15 +172,20 @@ std::string ReferenceStudy::GetIniFileName() const {
 
 std::unique_ptr<ConfigurationSection> ReferenceStudy::GetInvestigationSettings(
     const char* name, bool readOnly) const {
-    std::unique_ptr<ConfigurationSection> section;
-    if (parts_->iniFileName.empty()) {
-        section = parts_->settings.Root()->GetSection(name);
-    } else {
-        section = Investigation::GetInvestigationSettings(name, readOnly);
+    const ConfigurationStore& seeds = parts_->seeds;
+    return std::make_unique<SeededSection>(Investigation::GetInvestigationSettings(name, readOnly),
+                                           seeds.Root()->GetSection(name));
+}
+
+DesignSpacePredictor* ReferenceStudy::GetDesignSpacePredictor() const {
+    DesignSpacePredictor* predictor = Investigation::GetDesignSpacePredictor();
+    if (!parts_->hasCriteria) {
+        parts_->hasCriteria = true;
+        for (const StudyResponse& response : parts_->data.responses) {
+            predictor->GetResponseSettings().push_back(CriterionOf(response));
+        }
     }
-    const auto seeds = parts_->data.settings.find(name);
-    return std::make_unique<SeededSection>(
-        std::move(section), seeds == parts_->data.settings.end() ? nullptr : &seeds->second);
+    return predictor;
 }
 
 bool ReferenceStudy::IsLocked() const {

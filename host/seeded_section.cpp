@@ -5,17 +5,15 @@
 namespace kvopt {
 
 SeededSection::SeededSection(std::unique_ptr<ConfigurationSection> store,
-                             const StudySettingsSection* seeds)
-    : store_(std::move(store)), seeds_(seeds) {}
+                             std::unique_ptr<const ConfigurationSection> seeds)
+    : store_(std::move(store)), seeds_(std::move(seeds)) {}
 
 SeededSection::~SeededSection() = default;
 
-const StudySettingValue* SeededSection::Seed(const char* key) const {
-    if (seeds_ == nullptr || !isOutermost_) {
-        return nullptr;
-    }
-    const auto found = seeds_->find(key);
-    return found == seeds_->end() ? nullptr : &found->second;
+template <class Value>
+bool SeededSection::Read(const char* key, Value& value) const {
+    return store_->ReadKey(key, value) ||
+           (seeds_ != nullptr && isOutermost_ && seeds_->ReadKey(key, value));
 }
 
 void SeededSection::SetSection(const char* name) {
@@ -49,72 +47,16 @@ bool SeededSection::HasSection(const char* name, bool alsoEmpty) const {
 }
 
 bool SeededSection::ReadKey(const char* key, bool& value) const {
-    if (store_->ReadKey(key, value)) {
-        return true;
-    }
-    const StudySettingValue* seed = Seed(key);
-    if (seed == nullptr) {
-        return false;
-    }
-    if (const auto* flag = std::get_if<bool>(seed)) {
-        value = *flag;
-        return true;
-    }
-    const auto* number = std::get_if<int>(seed);
-    if (number != nullptr) {
-        value = *number != 0;
-    }
-    return number != nullptr;
+    return Read(key, value);
 }
-
 bool SeededSection::ReadKey(const char* key, double& value) const {
-    if (store_->ReadKey(key, value)) {
-        return true;
-    }
-    const StudySettingValue* seed = Seed(key);
-    if (seed == nullptr) {
-        return false;
-    }
-    if (const auto* real = std::get_if<double>(seed)) {
-        value = *real;
-        return true;
-    }
-    const auto* number = std::get_if<int>(seed);
-    if (number != nullptr) {
-        value = *number;
-    }
-    return number != nullptr;
+    return Read(key, value);
 }
-
 bool SeededSection::ReadKey(const char* key, int& value) const {
-    if (store_->ReadKey(key, value)) {
-        return true;
-    }
-    const StudySettingValue* seed = Seed(key);
-    if (seed == nullptr) {
-        return false;
-    }
-    if (const auto* flag = std::get_if<bool>(seed)) {
-        value = *flag ? 1 : 0;
-        return true;
-    }
-    const auto* number = std::get_if<int>(seed);
-    if (number != nullptr) {
-        value = *number;
-    }
-    return number != nullptr;
+    return Read(key, value);
 }
-
 bool SeededSection::ReadKey(const char* key, std::string& value) const {
-    if (store_->ReadKey(key, value)) {
-        return true;
-    }
-    const StudySettingValue* seed = Seed(key);
-    const auto* text = seed == nullptr ? nullptr : std::get_if<std::string>(seed);
-    if (text != nullptr) {
-        value = *text;
-    }
-    return text != nullptr;
+    return Read(key, value);
 }
 
 void SeededSection::WriteKey(const char* key, bool value) {

@@ -3,7 +3,6 @@
 #include <memory>
 #include <string>
 
-#include "kvopt/host/study_data.h"
 #include "kvopt/stores/configuration_section.h"
 
 namespace kvopt {
@@ -12,8 +11,9 @@ namespace kvopt {
 /// hold the value that the study began with. The sections inside it have no such values.
 class SeededSection final : public ConfigurationSection {
 public:
-    /// `seeds` may be null and outlives the section.
-    SeededSection(std::unique_ptr<ConfigurationSection> store, const StudySettingsSection* seeds);
+    /// `seeds` may be null.
+    SeededSection(std::unique_ptr<ConfigurationSection> store,
+                  std::unique_ptr<const ConfigurationSection> seeds);
     ~SeededSection() override;
 
     using ConfigurationSection::WriteKey;
@@ -38,10 +38,11 @@ public:
     std::unique_ptr<const ConfigurationSection> GetSection(const char* name) const override;
 
 private:
-    const StudySettingValue* Seed(const char* key) const;
+    template <class Value>
+    bool Read(const char* key, Value& value) const;
 
     std::unique_ptr<ConfigurationSection> store_;
-    const StudySettingsSection* seeds_;
+    std::unique_ptr<const ConfigurationSection> seeds_;
     bool isOutermost_ = true;
 };
 

@@ -146,12 +146,14 @@ void CheckFactor(const StudyData& study, const StudyFactor& factor, const std::s
     }
 }
 
-void CheckMixture(const StudyData& study) {
-    CheckNumber(study.mixtureTotal, "/mixtureTotal");
-    if (study.mixtureTotal <= 0.0) {
-        throw StudyFault{"/mixtureTotal", "a total above 0",
-                         KvString::FromDouble(study.mixtureTotal)};
+void CheckTotal(double total) {
+    CheckNumber(total, "/mixtureTotal");
+    if (total <= 0.0) {
+        throw StudyFault{"/mixtureTotal", "a total above 0", KvString::FromDouble(total)};
     }
+}
+
+void CheckMixture(const StudyData& study) {
     double low = 0.0;
     double high = 0.0;
     int fillers = 0;
@@ -323,7 +325,8 @@ void CheckBlocking(const StudyData& study) {
     const int* number = std::get_if<int>(&fixed->second);
     if (number == nullptr || (*number != 0 && *number != 1)) {
         throw StudyFault{"/settings" + PointerStep(kBlockingSection) + PointerStep(kFixedEffectKey),
-                         "true, false, 1 or 0", "another value"};
+                         "true, false, 1 or 0",
+                         number == nullptr ? "a fraction or a text" : std::to_string(*number)};
     }
 }
 
@@ -343,6 +346,7 @@ void CheckStudy(const StudyData& study) {
     for (std::size_t l = 0; l < study.labels.size(); ++l) {
         names.Add(study.labels[l], Step("labels", l));
     }
+    CheckTotal(study.mixtureTotal);
     for (std::size_t f = 0; f < study.factors.size(); ++f) {
         CheckFactor(study, study.factors[f], Step("factors", f));
     }

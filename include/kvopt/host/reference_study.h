@@ -19,8 +19,8 @@ namespace kvopt {
 ///   which makes up the rest, is available to no plot. A study without any model offers everything.
 /// - A favourite setpoint in the record is the default start; the contributions of the factors are
 ///   worked out from the models around it. There is no optimizer behind the study.
-/// - Settings start from those of the record. What is written goes to the ini file, or lasts as
-///   long as the study when there is none.
+/// - Settings and design space options start from those of the record. What is written goes to the
+///   ini file, or lasts as long as the study when there is none.
 ///
 /// The record does not change any more; the study is neither copied nor moved, since plots point to
 /// it. It must not be the active investigation any longer when it dies.
@@ -46,6 +46,7 @@ public:
     std::string GetIniFileName() const override;
     std::unique_ptr<ConfigurationSection> GetInvestigationSettings(const char* name,
                                                                    bool readOnly) const override;
+    DesignSpacePredictor* GetDesignSpacePredictor() const override;
     bool IsLocked() const override;
 
 private:

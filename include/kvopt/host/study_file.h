@@ -13,6 +13,7 @@
 #include "kvopt/export.h"
 #include "kvopt/host/reference_study.h"
 #include "kvopt/host/study_data.h"
+#include "kvopt/text/exceptions.h"
 
 namespace kvopt {
 
