@@ -278,7 +278,9 @@ BoxAnswer Desktop::DoShowBox(const MessageBoxRequest& request) {
     return request.IsQuestion() ? BoxAnswer::No : BoxAnswer::Ok;
 }
 
+// Front ends keep the callback, so they get it by value.
 void Desktop::DoStartTimer(TimerId /*id*/, unsigned /*milliseconds*/,
+                           // NOLINTNEXTLINE(performance-unnecessary-value-param)
                            std::function<void()> /*callback*/) {}
 
 void Desktop::DoStopTimer(TimerId /*id*/) {}

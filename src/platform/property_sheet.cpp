@@ -13,7 +13,7 @@
 
 namespace kvopt {
 
-CPropertySheet::CPropertySheet(std::wstring caption, CWnd* parent, unsigned startPage)
+CPropertySheet::CPropertySheet(const std::wstring& caption, CWnd* parent, unsigned startPage)
     : CWnd(parent), start_(static_cast<int>(startPage)) {
     StoreText(caption);
 }

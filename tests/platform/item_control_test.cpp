@@ -67,6 +67,10 @@ TEST_F(ItemControl, FindsPrefixesWithoutRegardToCase) {
     EXPECT_EQ(list.FindString(-1, L"\u00f6"), 3);
     EXPECT_EQ(list.FindString(-1, L"\u03b1LPHA"), 4);
     EXPECT_EQ(list.FindString(-1, L"\u0436"), 5);
+    Fill({L"\u0101bc", L"\u0178", L"\u03c2"});
+    EXPECT_EQ(list.FindString(-1, L"\u0100B"), 6) << "capital and small letters in turn";
+    EXPECT_EQ(list.FindString(-1, L"\u00ff"), 7);
+    EXPECT_EQ(list.FindString(-1, L"\u03a3"), 8) << "the sigma at the end of a word";
     EXPECT_EQ(list.FindString(-1, L"Temp22"), -1);
     EXPECT_EQ(list.FindString(-1, L"\u00f7"), -1) << "the division sign is no small letter";
 }

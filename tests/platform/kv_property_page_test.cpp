@@ -290,6 +290,17 @@ TEST_F(ThePage, KeepsWhatItsControlsWereGivenBehindOnInitDialogWhenItIsFirstActi
     EXPECT_EQ(exchange.radio, -1) << "no mark";
 }
 
+TEST_F(ThePage, CountsItsFirstActivationAnewForEachWindow) {
+    ExchangePage exchange;
+    for (int window = 0; window < 2; ++window) {
+        exchange.Create();
+        exchange.edit->SetText(L"written by the page");
+        exchange.OnSetActive();
+        EXPECT_EQ(exchange.edit->GetText(), L"written by the page") << window;
+        exchange.DestroyWindow();
+    }
+}
+
 TEST_F(ThePage, WritesOnlyDifferencesWhenItExchanges) {
     ExchangePage exchange;
     exchange.Create();

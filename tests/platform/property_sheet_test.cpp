@@ -290,6 +290,15 @@ TEST_F(PropertySheet, RunsPostedStepsBeforeTheRunReturnsAlsoWhenOkClosesIt) {
                                    "audited", "a.OnDestroyWindow", "end 1"));
 }
 
+TEST_F(PropertySheet, RunsStepsThatWerePostedOutsideOfAnyAction) {
+    EXPECT_EQ(Run({[&] {
+                  a.PostStep("last", [] {});
+                  sheet.EndDialog(kResultOk);
+              }}),
+              kResultOk);
+    EXPECT_THAT(Log(), ElementsAre("posted last", "a.OnDestroyWindow", "end 1"));
+}
+
 TEST_F(PropertySheet, EndsWithTheResultThatItWasGiven) {
     EXPECT_EQ(Run({[&] { sheet.EndDialog(kResultCancelRequested); }}), kResultCancelRequested);
     EXPECT_EQ(Run({[&] {

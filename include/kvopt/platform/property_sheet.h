@@ -20,7 +20,7 @@ enum WizardButton : unsigned long { kWizardBack = 1, kWizardNext = 2, kWizardFin
 class KVOPT_EXPORT CPropertySheet : public CWnd {
 public:
     /// `startPage` is the zero-based index of the page to start with.
-    CPropertySheet(std::wstring caption, CWnd* parent, unsigned startPage = 0);
+    CPropertySheet(const std::wstring& caption, CWnd* parent, unsigned startPage = 0);
     ~CPropertySheet() override;
 
     void SetWizardMode() { wizard_ = true; }
