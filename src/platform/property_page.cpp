@@ -61,9 +61,6 @@ bool CPropertyPage::OnWizardFinish() {
 }
 
 void CPropertyPage::SetModified(bool modified) {
-    if (modified == modified_) {
-        return;
-    }
     const bool before = sheet_ != nullptr && sheet_->IsApplyEnabled();
     modified_ = modified;
     if (sheet_ != nullptr && sheet_->IsApplyEnabled() != before) {
