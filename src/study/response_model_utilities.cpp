@@ -49,7 +49,7 @@ bool ResponseModelUtilities::IsResponseAvailable(const std::string& response,
 }
 
 bool ResponseModelUtilities::IsVariableAvailable(const std::string& name) const {
-    return IsFactorAvailable(name, true, false) || IsResponseAvailable(name, false);
+    return IsFactorAvailable(name, false, false) || IsResponseAvailable(name, false);
 }
 
 bool ResponseModelUtilities::IsInAnyModel(int factorIndex) const {
@@ -57,7 +57,9 @@ bool ResponseModelUtilities::IsInAnyModel(int factorIndex) const {
 }
 
 std::shared_ptr<TermInfo> ResponseModelUtilities::CreateCompleteModel() const {
-    return queries_ != nullptr ? queries_->CreateCompleteModel() : std::make_shared<TermInfo>();
+    const std::shared_ptr<TermInfo> terms =
+        queries_ != nullptr ? queries_->CreateCompleteModel() : nullptr;
+    return terms != nullptr ? terms : std::make_shared<TermInfo>();
 }
 
 int MVAUtilities::CountQualFac(const Investigation* investigation) {
