@@ -1,10 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "stores/file_layer_test_support.h"
 #include "stores/store_test_support.h"
@@ -141,6 +143,20 @@ TEST_F(IniFileFaults, AKillBeforeAnyCallLeavesTheOldFileOrTheNewOne) {
     EXPECT_GT(call, 15);
     EXPECT_TRUE(sawOldWithTemporary) << "one kill fell between the temporary file and the rename";
     EXPECT_TRUE(recorder_.troubles.empty());
+}
+
+TEST_F(IniFileFaults, FlushesTheFileBeforeTheRenameAndItsFolderAfterwards) {
+    std::vector<std::string> operations;
+    const auto layer = std::make_shared<test::AskingLayer>([&](const std::string& operation, int) {
+        operations.push_back(operation);
+        return 0;
+    });
+    IniFileFactory(layer).GetIniFile(file_, "A")->WriteKey("Key", 2);
+    const auto write = std::find(operations.begin(), operations.end(), "Write");
+    const std::vector<std::string> fromWriteOn(write, operations.end());
+    EXPECT_THAT(fromWriteOn, ElementsAre("Write", "Sync", "StatusOfFile", "Close", "Rename", "Open",
+                                         "Sync", "Close", "Close"))
+        << "the last close gives the lock back";
 }
 
 TEST_F(IniFileFaults, ShortWritesAndInterruptedCallsAreCarriedOn) {
