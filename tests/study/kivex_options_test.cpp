@@ -1,0 +1,150 @@
+#include "kvopt/study/kivex_options.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "kvopt/stores.h"
+#include "support/fake_study.h"
+
+namespace kvopt {
+namespace {
+
+using test::FakeStudy;
+
+/// A design that still knows its runs, or no longer.
+class Design : public NCDesign {
+public:
+    explicit Design(bool known) : known_(known) {}
+    std::shared_ptr<const FMatrix> GetMatrix() const override {
+        return known_ ? std::make_shared<FMatrix>() : nullptr;
+    }
+
+private:
+    bool known_;
+};
+
+class DesignedSpec : public ModelSpec {
+public:
+    explicit DesignedSpec(const Investigation* study) : ModelSpec(study) {}
+    std::shared_ptr<NCDesign> GetDesign() const override { return design; }
+    std::shared_ptr<NCDesign> design;
+};
+
+/// Every field differs from its default.
+KivexOptions Changed() {
+    KivexOptions options;
+    options.replicateTolerance = 0.15;
+    options.r2Type = CR2Opt::R2Adjusted;
+    options.coefficientType = CCoeff::Normalized;
+    options.residualType = CResid::Raw;
+    options.confidenceLevel = CConfLev::Level90;
+    options.toleranceProportion = CConfLev::Level99;
+    options.alphaLevel = CAlphaLev::Level10;
+    options.coefficientPresentation = CCoeffList::ExtendedOnly;
+    options.qualitativePresentation = 2;
+    options.factorRepresentation = 2;
+    options.responseRepresentation = 2;
+    options.numberFormat = CNumberFormat::Decimals4;
+    options.intervalType = CIntervalType::Tolerance;
+    options.failureCorrelation = 2;
+    options.designMatrixSource = 0;
+    options.fitEqualModelsAsOne = 1;
+    options.plotLabelType = LabelTypes::RunOrder;
+    return options;
+}
+
+TEST(KivexOptions, StartFromTheirDefaults) {
+    const KivexOptions options;
+    EXPECT_EQ(options.replicateTolerance, 0.1);
+    EXPECT_EQ(options.r2Type, CR2Opt::R2);
+    EXPECT_EQ(options.coefficientType, CCoeff::ScaledAndCentered);
+    EXPECT_EQ(options.confidenceLevel, CConfLev::Level95);
+    EXPECT_EQ(options.intervalType, CIntervalType::Confidence);
+    EXPECT_EQ(options.designMatrixSource, 1);
+    EXPECT_EQ(options.fitEqualModelsAsOne, 0);
+}
+
+TEST(KivexOptions, ComeBackFromTheirSection) {
+    ConfigurationStore store;
+    Changed().SaveOptions(*store.Root());
+    const auto reread = ConfigurationStore::Parse(store.Text(), "options.json");
+    KivexOptions back;
+    back.LoadOptions(*reread.Root());
+    EXPECT_EQ(back, Changed());
+}
+
+TEST(KivexOptions, KeepWhatHasNoKey) {
+    const ConfigurationStore store;
+    KivexOptions options = Changed();
+    options.LoadOptions(*store.Root());
+    EXPECT_EQ(options, Changed());
+}
+
+TEST(KivexOptions, KeepWhatIsNoValueOfItsField) {
+    ConfigurationStore store;
+    const auto section = store.Root();
+    section->WriteKey("ReplicateTolerance", "none");
+    section->WriteKey("R2Opt", 3);
+    section->WriteKey("Coeff", 5);
+    section->WriteKey("QualitativePresentation", 3);
+    section->WriteKey("FactorRepresentation", 0);
+    section->WriteKey("ResponseRepresentation", 3);
+    section->WriteKey("FailureCorrelation", 3);
+    section->WriteKey("DesignMatrixSource", 2);
+    section->WriteKey("FitEqualModelsAsOne", -1);
+    section->WriteKey("PlotLabelType", "Colour of the sky");
+    KivexOptions options = Changed();
+    options.LoadOptions(*section);
+    EXPECT_EQ(options, Changed());
+}
+
+TEST(KivexOptions, StoreTheLabelTypeByItsText) {
+    ConfigurationStore store;
+    Changed().SaveOptions(*store.Root());
+    std::string text;
+    EXPECT_TRUE(store.Root()->ReadKey("PlotLabelType", text));
+    EXPECT_EQ(text, LabelTypes::GetString(LabelTypes::RunOrder, false));
+}
+
+TEST(KivexOptions, KeepTheirPlotLabelTypeBehindItsName) {
+    KivexOptions options;
+    options.SetPlotLabelType(LabelTypes::ExperimentName);
+    EXPECT_EQ(options.plotLabelType, LabelTypes::ExperimentName);
+    EXPECT_EQ(options.GetPlotLabelType(), LabelTypes::ExperimentName);
+}
+
+TEST(KivexOptions, TakeTheWorksheetWhereNoGeneratedDesignIsKnown) {
+    FakeStudy study;
+    DesignedSpec spec(&study);
+    KivexOptions options = Changed();
+    spec.design = std::make_shared<Design>(true);
+    options.MakeSureOptionsAreAvailable(&spec);
+    EXPECT_EQ(options.designMatrixSource, 0);
+    spec.design = std::make_shared<Design>(false);
+    options.MakeSureOptionsAreAvailable(&spec);
+    EXPECT_EQ(options.designMatrixSource, 1);
+    options.designMatrixSource = 0;
+    spec.design = nullptr;
+    options.MakeSureOptionsAreAvailable(&spec);
+    EXPECT_EQ(options.designMatrixSource, 1);
+}
+
+TEST(KivexOptions, LeaveAMixtureModelItsUnscaledCoefficientsAlone) {
+    FakeStudy study;
+    study.Part("Water");
+    KivexOptions options = Changed();
+    options.MakeSureOptionsAreAvailable(study.GetModelSpec());
+    EXPECT_EQ(options.coefficientType, CCoeff::Unscaled);
+    study.Number("Speed");
+    options = Changed();
+    options.MakeSureOptionsAreAvailable(study.GetModelSpec());
+    EXPECT_EQ(options.coefficientType, CCoeff::Normalized);
+    options = Changed();
+    options.MakeSureOptionsAreAvailable(nullptr);
+    EXPECT_EQ(options, Changed());
+}
+
+}  // namespace
+}  // namespace kvopt
