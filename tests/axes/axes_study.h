@@ -1,8 +1,8 @@
 #pragma once
 
 /// \file
-/// A study of a few records for the tests of axes: they say which factors the models know, which
-/// settings the study recommends and what a mixture sums to, and count what was asked.
+/// The fake study of the tests of axes: they say which settings it recommends and what a mixture
+/// sums to, and see what was asked.
 
 #include <algorithm>
 #include <map>
@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "kvopt/study.h"
+#include "support/fake_study.h"
 
 namespace kvopt::test {
 
@@ -24,48 +25,24 @@ struct FactorQuestion {
     bool operator==(const FactorQuestion&) const = default;
 };
 
-class AxesStudy : public Investigation {
+class AxesStudy : public FakeStudy {
 public:
-    AxesStudy() : variables_(*this), manager_(*this), models_(*this) {}
+    AxesStudy() : variables_(*this), models_(*this) {}
 
+    /// A factor of any kind and use, a qualitative one with four settings.
     FactorClass& Add(const std::string& name, CEType::EType type,
                      CEUse::EUse use = CEUse::Controlled) {
-        auto factor = type == CEType::Qualitative
-                          ? std::make_unique<FactorClass>(
-                                name, std::vector<std::string>{"red", "green", "blue", "grey"})
-                          : std::make_unique<FactorClass>(name, 0.0, 1.0, type);
-        factor->factorValue.use = use;
-        factor->index = static_cast<int>(factors_.size()) + 1;
-        factors_.push_back(std::move(factor));
-        return *factors_.back();
-    }
-    FactorClass& Number(const std::string& name, double low, double high) {
-        FactorClass& factor = Add(name, CEType::Quantitative);
-        factor.low = low;
-        factor.high = high;
+        FactorClass& factor =
+            type == CEType::Qualitative ? Names(name) : Number(name, 0.0, 1.0, type);
+        factor.factorValue.use = use;
         return factor;
     }
-    FactorClass& Part(const std::string& name, double low = 0.0, double high = 1.0) {
-        FactorClass& factor = Add(name, CEType::Formulation);
-        factor.low = low;
-        factor.high = high;
-        return factor;
-    }
-    FactorClass& Names(const std::string& name) { return Add(name, CEType::Qualitative); }
-
-    void Response(const std::string& name) {
-        responses_.push_back(std::make_unique<ResponseClass>(name));
-        Extended(responses_.back().get(), ResponseEx::Regular);
-    }
-    /// In the response manager alone.
-    void ExtraResponse(const std::string& name, ResponseEx::EResponseType type) {
-        extras_.push_back(std::make_unique<ResponseClass>(name));
-        Extended(extras_.back().get(), type);
+    FactorClass& Names(const std::string& name) {
+        return FakeStudy::Names(name, {"red", "green", "blue", "grey"});
     }
 
     bool trueFiller = false;
     double mixtureTotal = 1.0;
-    std::set<std::string> unavailable;         ///< factors and responses
     std::set<std::string> unusualSettings;     ///< "factor=setting" that is not recommended
     std::map<std::string, double> references;  ///< parts of the reference mixture
     double pseudoScale = 1.0;                  ///< what a pseudo-component stands for
@@ -76,7 +53,6 @@ public:
     mutable std::vector<std::string> mixtureQuestions;
 
     Variables* GetVariables() const override { return &variables_; }
-    ResponseManager* GetResponseManager() const override { return &manager_; }
     const ModelQueries* GetModelQueries() const override { return &models_; }
 
 private:
@@ -84,10 +60,10 @@ private:
     public:
         explicit Vars(AxesStudy& study) : study_(study) {}
         std::vector<FactorClass*> GetAllFactors() const override {
-            return Pointers(study_.factors_);
+            return study_.FakeStudy::GetVariables()->GetAllFactors();
         }
         std::vector<ResponseClass*> GetAllResponses() const override {
-            return Pointers(study_.responses_);
+            return study_.FakeStudy::GetVariables()->GetAllResponses();
         }
         bool IstrueFiller() const override { return study_.trueFiller; }
         bool LegalSetting(const std::string& factor, const std::string& setting) const override {
@@ -112,30 +88,12 @@ private:
         }
 
     private:
-        template <class T>
-        static std::vector<T*> Pointers(const std::vector<std::unique_ptr<T>>& owned) {
-            std::vector<T*> result;
-            for (const auto& one : owned) {
-                result.push_back(one.get());
-            }
-            return result;
-        }
-        AxesStudy& study_;
-    };
-
-    class Manager : public ResponseManager {
-    public:
-        explicit Manager(AxesStudy& study) : study_(study) {}
-        const std::vector<ResponseEx*>& GetResponses() const override { return study_.extended_; }
-
-    private:
         AxesStudy& study_;
     };
 
     class Models : public ModelQueries {
     public:
         explicit Models(AxesStudy& study) : ModelQueries(&study), study_(study) {}
-        bool HasModel() const override { return true; }
         int GetUsedCount(CEVar which, int limit) const override {
             study_.usedQuestions.emplace_back(which, limit);
             return std::min(limit, study_.usedFactors);
@@ -153,19 +111,7 @@ private:
         AxesStudy& study_;
     };
 
-    void Extended(ResponseClass* response, ResponseEx::EResponseType type) {
-        owned_.push_back(std::make_unique<ResponseEx>(response));
-        owned_.back()->type = type;
-        extended_.push_back(owned_.back().get());
-    }
-
-    std::vector<std::unique_ptr<FactorClass>> factors_;
-    std::vector<std::unique_ptr<ResponseClass>> responses_;
-    std::vector<std::unique_ptr<ResponseClass>> extras_;
-    std::vector<std::unique_ptr<ResponseEx>> owned_;
-    std::vector<ResponseEx*> extended_;
     mutable Vars variables_;
-    mutable Manager manager_;
     Models models_;
 };
 

@@ -647,6 +647,13 @@ TEST_F(AxisPageInSheetTest, TransfersOnTheWayForward) {
     EXPECT_EQ(axes[1]->GetMin(), 1.5F);
 }
 
+TEST_F(AxisPageInSheetTest, LosesDigitsBeyondSixOfARangeThatNobodyTouched) {
+    axes[1]->SetRange(0.123456789F, 1234567.0F);
+    Run([&] { EXPECT_EQ(page.OnWizardNext(), 0); });
+    EXPECT_EQ(axes[1]->GetMin(), 0.123457F);
+    EXPECT_EQ(axes[1]->GetMax(), 1234570.0F);
+}
+
 TEST_F(AxisPageInSheetTest, TransfersADoubtfulRangeThatTheUserKeeps) {
     study.unusualSettings = {"Time=1.5"};
     desktop.answers = {BoxAnswer::No, BoxAnswer::Yes};
