@@ -199,6 +199,22 @@ TEST_F(FactorPositions, CenterAMixtureFactorOnTheReferenceMixture) {
     EXPECT_EQ(Center(part_, REF), "0.66");
 }
 
+TEST(MixturePositions, AskTheReferenceMixtureInOriginalUnits) {
+    class Mixture : public Variables {
+    public:
+        std::vector<FactorClass*> GetAllFactors() const override { return {}; }
+        std::vector<ResponseClass*> GetAllResponses() const override { return {}; }
+        double GetMixtureReferenceRegulated(const std::string& factor, const std::string& fixed,
+                                            double fixedValue, bool originalUnits) const override {
+            return factor == "Water" && fixed.empty() && fixedValue == kNotSet && originalUnits
+                       ? 0.3
+                       : 0.7;
+        }
+    };
+    const FactorClass water("Water", 0.0, 1.0, CEType::Formulation);
+    EXPECT_EQ(GetQuantitativeFloatValue(Mixture(), &water, REF), 0.3);
+}
+
 TEST_F(FactorPositions, HaveTheirTexts) {
     EXPECT_EQ(Center(number_, LOW), "10");
     EXPECT_EQ(Center(number_, REF), "15");

@@ -166,6 +166,17 @@ TEST_F(StudyVariables, KeepEachPartOfTheReferenceMixtureWithinItsLimits) {
     EXPECT_NEAR(sum, 1.0, 1e-12);
 }
 
+TEST_F(StudyVariables, StopAtTheLimitsWhereTheTotalLiesBeyondThem) {
+    FakeStudy little;
+    little.Part("A", 0.1, 0.2);
+    little.Part("B", 0.1, 0.3);
+    EXPECT_EQ(Reference(*little.GetVariables(), "A"), 0.2);
+    FakeStudy much;
+    much.Part("A", 0.7, 0.9);
+    much.Part("B", 0.6, 0.8);
+    EXPECT_EQ(Reference(*much.GetVariables(), "A"), 0.7);
+}
+
 TEST_F(StudyVariables, LetAPartWithoutLimitsBeAnything) {
     FakeStudy open;
     for (const char* name : {"A", "B", "C", "D"}) {
