@@ -177,7 +177,7 @@ void CPropertySheet::BringUp(int index, int direction) {
                                  Transcript::Quote(page.PageTitle()));
         ApplyDefaultButtons();
         page.Create();
-        if (page.OnSetActive()) {
+        if (page.OnSetActive() || active_ != index) {
             break;
         }
     }

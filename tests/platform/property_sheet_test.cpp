@@ -278,6 +278,17 @@ TEST_F(PropertySheet, PassesOverAPageThatRefusesToBeActive) {
          [&] { sheet.UserCancel(); }});
 }
 
+TEST_F(PropertySheet, GivesTheLastWordToAnActivationThatChangesThePageItself) {
+    b.activeAnswer = false;
+    b.also["OnSetActive"] = [this] { sheet.SetActivePage(&a); };
+    Run({[&] {
+             sheet.UserSelectPage(1);
+             EXPECT_EQ(sheet.GetActivePage(), &a);
+             EXPECT_FALSE(c.HasWindow());
+         },
+         [&] { sheet.UserCancel(); }});
+}
+
 TEST_F(PropertySheet, RunsPostedStepsBeforeTheRunReturnsAlsoWhenOkClosesIt) {
     a.also["OnApply"] = [this] {
         a.PostStep("audit", [this] {
