@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 
 #include "axes/axis_filters.h"
 #include "kvopt/axes/axis_rules.h"
@@ -224,94 +223,6 @@ void AxisPage::SetUnused(int axis) {
         list->SetText(KvStdString::ToWide(AxisInfo::GetNotUsedName()));
         SetDefault(axis);
     }
-}
-
-int AxisPage::SelectString(int axis, const std::string& name) {
-    int found = -1;
-    if (CComboBox* list = AxisCombo(axis)) {
-        // The list finds prefixes, so that a search for Temp may stop at Temp2.
-        const std::wstring text = KvStdString::ToWide(name);
-        for (int start = 0; start <= list->GetCount(); ++start) {
-            const int index = list->SelectString(start, text);
-            if (index == -1) {
-                break;
-            }
-            if (list->GetItemText(index) == text) {
-                found = index;
-                break;
-            }
-        }
-    }
-    SetDefault(found != -1 ? axis : 1);
-    return found;
-}
-
-void AxisPage::SetupComboBox() {
-    const int rows = RowCount(NAxis());
-    std::set<int> needy;
-    for (int axis = 1; axis <= rows; ++axis) {
-        if (!ShowStoredAxis(axis)) {
-            needy.insert(axis);
-        }
-    }
-    std::set<std::string> taken;
-    for (int axis = 1; axis <= rows; ++axis) {
-        if (needy.count(axis) != 0) {
-            continue;
-        }
-        if (AxisCombo(axis)->GetCurSel() == -1) {
-            needy.insert(axis);
-        } else {
-            taken.insert(NameAxis(axis));
-        }
-    }
-    std::erase_if(needy, [&](int axis) { return ProposeDefault(axis, taken); });
-    for (const int axis : needy) {
-        AddUnusedOption(axis);
-        SelectString(axis, AxisInfo::GetNotUsedName());
-    }
-}
-
-bool AxisPage::ShowStoredAxis(int axis) {
-    CComboBox* list = AxisCombo(axis);
-    if (list == nullptr) {
-        return false;
-    }
-    FillAxisCombo(axis, list, nullptr);
-    const AxisInfo* info = Axis(axis);
-    if (info == nullptr || !info->IsDefined()) {
-        return false;
-    }
-    if (!info->IsUsed()) {
-        AddUnusedOption(axis);
-    }
-    if (SelectString(axis, info->GetName()) == -1) {
-        return false;
-    }
-    if (info->IsUsed() && !investigation_->GetVariables()->IsFactorQualitative(info->GetName())) {
-        SetRange(axis, info->GetMin(), info->GetMax());
-    }
-    return true;
-}
-
-bool AxisPage::ProposeDefault(int axis, std::set<std::string>& taken) {
-    const CComboBox* list = AxisCombo(axis);
-    if (list == nullptr) {
-        return false;
-    }
-    for (std::size_t i = 1; i < arguments_.defaults->size(); ++i) {
-        const AxisInfo* candidate = (*arguments_.defaults)[i].get();
-        if (candidate == nullptr) {
-            continue;
-        }
-        const std::string& name = candidate->GetName();
-        if (taken.count(name) == 0 && list->FindStringExact(-1, KvStdString::ToWide(name)) != -1) {
-            SelectString(axis, name);
-            taken.insert(name);
-            return true;
-        }
-    }
-    return false;
 }
 
 unsigned AxisPage::IsAxisLegal(int axis) const {

@@ -4,102 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "axes/axes_study.h"
-#include "axes/page_probe.h"
-#include "axes/sheet_desktop.h"
+#include "axes/axis_page_fixture.h"
 
 namespace kvopt::test {
 namespace {
 
 using testing::ElementsAre;
-using Texts = std::vector<std::string>;
-
-const std::string kNone = AxisInfo::GetNotUsedName();
-
-/// Temp2 stands before Temp, so that a search by prefix meets the wrong one first.
-class AxisPageTest : public testing::Test {
-protected:
-    AxisPageTest() {
-        study.Number("Temp2", 0, 100);
-        study.Number("Temp", 0, 100);
-        study.Number("Time", 0, 60);
-        study.Names("Colour");
-        study.Number("Speed", 0, 9);
-        defaults = MakeAxes({{"Time", 10, 50},
-                             {"Temp", 20, 80},
-                             {"Colour", kNotSetF, kNotSetF},
-                             {"Temp2", 30, 70}});
-        defaults.insert(defaults.begin() + 2, nullptr);
-    }
-
-    AxisPage::Arguments Arguments() {
-        return {&axes, static_cast<int>(axes.size()) - 1, 6158, &defaults,
-                static_cast<int>(defaults.size()) - 1};
-    }
-
-    /// Counts the virtual steps and offers what a test wants on the lists.
-    class Page : public AxisPage {
-    public:
-        Page(AxisPageTest& test, BasePropertyPageHelper* helper = nullptr)
-            : AxisPage(&test.study, test.Arguments(), 6152, helper, 1) {}
-
-        void FillAxisCombo(int axis, CComboBox* box, const wchar_t* selected) override {
-            fills.push_back(axis);
-            selectedWasNull = selectedWasNull && selected == nullptr;
-            if (offers.empty()) {
-                AxisPage::FillAxisCombo(axis, box, selected);
-                return;
-            }
-            box->ResetContent();
-            for (const std::string& name : offers) {
-                box->AddString(KvStdString::ToWide(name));
-            }
-            box->SetCurSel(0);
-        }
-        void OnChangeAxis(int axis) override {
-            steps.push_back("change " + std::to_string(axis));
-            AxisPage::OnChangeAxis(axis);
-        }
-        void SetDefault(int axis) override {
-            steps.push_back("default " + std::to_string(axis));
-            AxisPage::SetDefault(axis);
-        }
-        void TransferFromPage() override {
-            steps.push_back("transfer");
-            AxisPage::TransferFromPage();
-        }
-        void OnOK() override {
-            steps.push_back("ok");
-            AxisPage::OnOK();
-        }
-        void Changed() override {
-            ++changes;
-            AxisPage::Changed();
-        }
-
-        Texts offers;
-        Texts steps;
-        std::vector<int> fills;
-        bool selectedWasNull = true;
-        int changes = 0;
-    };
-
-    /// A page of its own, with a window.
-    std::unique_ptr<Page> Shown() {
-        auto page = std::make_unique<Page>(*this);
-        page->Create();
-        page->steps.clear();
-        page->changes = 0;
-        return page;
-    }
-
-    AxesStudy study;
-    AxisVector axes = MakeAxes({{"Time", 1, 2}, {"Temp", 3, 4}});
-    AxisVector defaults;
-    SheetDesktop desktop;
-};
 
 // Before the page has a window, and after.
 
@@ -313,6 +226,24 @@ TEST_F(AxisPageTest, SelectsExactlyTheNameWhicheverComesFirst) {
     }
 }
 
+TEST_F(AxisPageTest, FindsEachOfManyNamesThatBeginEachOther) {
+    Page page(*this);
+    for (const char* name : {"F", "F1", "F12", "f", "F123", "F1", "G", "F2", "FF"}) {
+        page.offers.emplace_back(name);
+    }
+    page.Create();
+    for (const auto& [name, index] :
+         {std::pair("F", 0), std::pair("F12", 2), std::pair("f", 3), std::pair("F123", 4),
+          std::pair("G", 6), std::pair("F2", 7), std::pair("FF", 8)}) {
+        EXPECT_EQ(page.SelectString(1, name), index) << name;
+        EXPECT_EQ(page.NameAxis(1), name);
+    }
+    EXPECT_EQ(page.SelectString(1, "F1"), 1) << "the first of two";
+    EXPECT_EQ(page.SelectString(1, "F3"), -1);
+    EXPECT_EQ(page.SelectString(1, "fF"), -1);
+    EXPECT_EQ(page.NameAxis(1), "FF") << "where the search came to";
+}
+
 TEST_F(AxisPageTest, RestoresTheDefaultsOfAxisOneForANameThatIsNotInTheList) {
     const auto page = Shown();
     EXPECT_EQ(page->SelectString(2, "Gone"), -1);
@@ -517,208 +448,12 @@ TEST_F(AxisPageTest, IgnoresTheRowsBeyondItsAxes) {
     EXPECT_EQ(page->IsAxisLegal(3), 0U);
 }
 
-// In a sheet. The second page only stands behind or in front.
-
-class AxisPageInSheetTest : public AxisPageTest {
-protected:
-    AxisPageInSheetTest() { sheet.AddPage(&page); }
-
-    void Run(std::function<void()> user) {
-        desktop.user = [this, user = std::move(user)](CPropertySheet&) {
-            page.steps.clear();
-            user();
-        };
-        sheet.DoModal();
-    }
-    RowProbe Row(int axis) { return {page, axis}; }
-
-    KvPropertySheet sheet{L"Contour Plot", nullptr, 0};
-    ConnectedHelper helper;
-    Page page{*this, &helper};
-    AxisVector otherAxes = MakeAxes({{"Time", 1, 2}});
-    AxisPage other{&study, {&otherAxes, 1, 0, &defaults, 4}, 6152, nullptr, 1};
-};
-
-TEST_F(AxisPageInSheetTest, TellsAnErrorInTheSheetsNameAndRefuses) {
-    Run([&] {
-        Row(1).low.UserEdit(L"2");
-        EXPECT_FALSE(page.CheckLegalAxes());
-    });
-    EXPECT_EQ(desktop.boxes,
-              (std::vector<SheetDesktop::Box>{
-                  {"The low setting (2) on the 1st axis (Time) must be lower than the high "
-                   "setting (2).",
-                   "Contour Plot", 16}}));
-}
-
-TEST_F(AxisPageInSheetTest, AsksAboutWarningsAndTakesYesAlone) {
-    study.unusualSettings = {"Time=1"};
-    desktop.answers = {BoxAnswer::No, BoxAnswer::Yes};
-    Run([&] {
-        EXPECT_FALSE(page.CheckLegalAxes());
-        EXPECT_TRUE(page.CheckLegalAxes());
-    });
-    ASSERT_EQ(desktop.boxes.size(), 2U);
-    EXPECT_EQ(desktop.boxes[0],
-              (SheetDesktop::Box{"The low setting (1) on the 1st axis (Time) is outside the "
-                                 "recommended range for the factor.\n\nDo you still want to use "
-                                 "the specified setting?",
-                                 "Contour Plot", 52}));
-}
-
-TEST_F(AxisPageInSheetTest, ShowsNoBoxWhenAllIsLegal) {
-    Run([&] { EXPECT_TRUE(page.CheckLegalAxes()); });
-    EXPECT_TRUE(desktop.boxes.empty());
-}
-
-TEST_F(AxisPageInSheetTest, ComesUpAfterTheBoxWhenItWasJudgedFromBehind) {
-    sheet.AddPage(&other);
-    study.unusualSettings = {"Time=1"};
-    for (const BoxAnswer answer : {BoxAnswer::Yes, BoxAnswer::No}) {
-        desktop.answers = {answer};
-        CPropertyPage* duringBox = nullptr;
-        desktop.onBox = [&] { duringBox = sheet.GetActivePage(); };
-        Run([&] {
-            sheet.UserSelectPage(1);
-            EXPECT_EQ(page.CheckLegalAxes(), answer == BoxAnswer::Yes);
-            EXPECT_EQ(sheet.GetActivePage(), &page);
-        });
-        EXPECT_EQ(duringBox, &other);
-    }
-}
-
-TEST_F(AxisPageInSheetTest, StaysBehindWhenItWasLegal) {
-    sheet.AddPage(&other);
-    Run([&] {
-        sheet.UserSelectPage(1);
-        EXPECT_TRUE(page.CheckLegalAxes());
-        EXPECT_EQ(sheet.GetActivePage(), &other);
-    });
-}
-
 TEST_F(AxisPageTest, TellsAnErrorWithoutASheetToo) {
     const auto page = Shown();
     RowProbe(*page, 1).low.UserEdit(L"x");
     EXPECT_FALSE(page->CheckLegalAxes());
     ASSERT_EQ(desktop.boxes.size(), 1U);
     EXPECT_EQ(desktop.boxes[0].caption, "");
-}
-
-TEST_F(AxisPageInSheetTest, SetsNoWizardButtonsInASheet) {
-    Run([&] { EXPECT_FALSE(sheet.IsWizard()); });
-    EXPECT_EQ(sheet.WizardButtons() & kWizardFinish, 0U);
-}
-
-TEST_F(AxisPageInSheetTest, TurnsOnBackAndFinishInAWizard) {
-    sheet.SetWizardMode();
-    Run([&] { EXPECT_EQ(sheet.WizardButtons(), 5U); });
-}
-
-TEST_F(AxisPageInSheetTest, GoesBackToItsBackPageUncheckedAndUntransferred) {
-    Run([&] {
-        Row(1).low.UserEdit(L"x");
-        page.steps.clear();
-        EXPECT_EQ(page.OnWizardBack(), 6158);
-        EXPECT_TRUE(page.steps.empty());
-    });
-    EXPECT_TRUE(desktop.boxes.empty());
-    EXPECT_EQ(axes[1]->GetMin(), 1.0F);
-}
-
-TEST_F(AxisPageInSheetTest, DoesNotGoOnWithAnError) {
-    Run([&] {
-        Row(1).low.UserEdit(L"x");
-        EXPECT_EQ(page.OnWizardNext(), -1);
-        EXPECT_FALSE(page.OnWizardFinish());
-        EXPECT_TRUE(page.IsChanged());
-    });
-    EXPECT_EQ(axes[1]->GetMin(), 1.0F);
-    EXPECT_EQ(desktop.boxes.size(), 2U);
-}
-
-TEST_F(AxisPageInSheetTest, TransfersOnTheWayForward) {
-    Run([&] {
-        Row(1).low.UserEdit(L"1.5");
-        page.steps.clear();
-        EXPECT_EQ(page.OnWizardNext(), 0);
-        EXPECT_EQ(page.steps, (Texts{"transfer"}));
-        EXPECT_TRUE(page.IsChanged());
-    });
-    EXPECT_EQ(axes[1]->GetMin(), 1.5F);
-}
-
-TEST_F(AxisPageInSheetTest, LosesDigitsBeyondSixOfARangeThatNobodyTouched) {
-    axes[1]->SetRange(0.123456789F, 1234567.0F);
-    Run([&] { EXPECT_EQ(page.OnWizardNext(), 0); });
-    EXPECT_EQ(axes[1]->GetMin(), 0.123457F);
-    EXPECT_EQ(axes[1]->GetMax(), 1234570.0F);
-}
-
-TEST_F(AxisPageInSheetTest, TransfersADoubtfulRangeThatTheUserKeeps) {
-    study.unusualSettings = {"Time=1.5"};
-    desktop.answers = {BoxAnswer::No, BoxAnswer::Yes};
-    Run([&] {
-        Row(1).low.UserEdit(L"1.5");
-        EXPECT_EQ(page.OnWizardNext(), -1);
-        EXPECT_EQ(axes[1]->GetMin(), 1.0F);
-        EXPECT_EQ(page.OnWizardNext(), 0);
-    });
-    EXPECT_EQ(axes[1]->GetMin(), 1.5F);
-}
-
-TEST_F(AxisPageInSheetTest, FinishesTransferredAndClean) {
-    sheet.SetWizardMode();
-    Run([&] {
-        Row(1).low.UserEdit(L"1.5");
-        page.steps.clear();
-        EXPECT_TRUE(sheet.UserFinish());
-    });
-    EXPECT_EQ(page.steps, (Texts{"transfer"}));
-    EXPECT_EQ(sheet.Result(), kResultFinish);
-    EXPECT_EQ(axes[1]->GetMin(), 1.5F);
-    EXPECT_EQ(helper.UpdateCount(), 0);
-    EXPECT_EQ(helper.updates, 0);
-}
-
-TEST_F(AxisPageInSheetTest, AppliesACleanPageWithoutJudgingIt) {
-    axes[1]->SetRange(9, 1);
-    Run([&] {
-        EXPECT_TRUE(page.OnApply());
-        EXPECT_EQ(page.steps, (Texts{"ok"}));
-    });
-    EXPECT_TRUE(desktop.boxes.empty());
-}
-
-TEST_F(AxisPageInSheetTest, RefusesToApplyAnErrorAndStaysDirty) {
-    Run([&] {
-        Row(1).low.UserEdit(L"x");
-        EXPECT_FALSE(page.OnApply());
-        EXPECT_TRUE(page.IsChanged());
-        EXPECT_FALSE(sheet.UserOk() && sheet.HasEnded());
-    });
-    EXPECT_EQ(helper.updates, 0);
-    EXPECT_EQ(axes[1]->GetMin(), 1.0F);
-}
-
-TEST_F(AxisPageInSheetTest, AppliesThroughTheHelper) {
-    Run([&] {
-        Row(1).high.UserEdit(L"2.5");
-        page.steps.clear();
-        EXPECT_TRUE(page.OnApply());
-        EXPECT_EQ(page.steps, (Texts{"transfer"}));
-        EXPECT_FALSE(page.IsChanged());
-    });
-    EXPECT_EQ(helper.updates, 1);
-    EXPECT_EQ(axes[1]->GetMax(), 2.5F);
-}
-
-TEST_F(AxisPageInSheetTest, LeavesTheAxesAsTheyWereOnCancel) {
-    Run([&] {
-        Row(1).Pick("Speed");
-        sheet.UserCancel();
-    });
-    EXPECT_EQ(axes[1]->GetName(), "Time");
-    EXPECT_EQ(helper.UpdateCount(), 0);
 }
 
 }  // namespace
