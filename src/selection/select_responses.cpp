@@ -114,12 +114,17 @@ void SelectResponses::RefreshMirror() const {
 }
 
 void SelectResponses::SetResponses(const std::vector<std::string>& names) {
-    const std::vector<std::string> wanted = names;  // may be one of the lists that change here
-    while (!mSelected.empty()) {
-        const std::string first = mSelected.front();
-        MoveResponse(first, mSelected, mUnselected);
+    // In lists of its own, since `names` may be one of the two that change.
+    std::vector<std::string> former = mSelected;
+    std::vector<std::string> unselected = mUnselected;
+    std::vector<std::string> selected;
+    while (!former.empty()) {
+        const std::string first = former.front();
+        MoveResponse(first, former, unselected);
     }
-    MoveResponse(wanted, mUnselected, mSelected);
+    MoveResponse(names, unselected, selected);
+    mUnselected = std::move(unselected);
+    mSelected = std::move(selected);
     RefreshMirror();
 }
 
@@ -193,7 +198,9 @@ void SelectResponses::Read(const ConfigurationSection* section) {
     std::vector<std::string> names;
     bool allSelected = false;
     SelectResponseBase::ResponseType type = SelectResponseBase::Ordinary;
-    SelectResponseBase::ReadSection(section, names, allSelected, type);
+    if (section) {
+        SelectResponseBase::ReadSection(section, names, allSelected, type);
+    }
     if (!names.empty() || allSelected) {
         SetResponses(names);
     }
@@ -201,6 +208,9 @@ void SelectResponses::Read(const ConfigurationSection* section) {
 }
 
 void SelectResponses::Save(ConfigurationSection* section) const {
+    if (!section) {
+        throw InvalidArgument("SelectResponses::Save");
+    }
     SelectResponseBase::WriteSection(section, mSelected, mUnselected.empty(),
                                      mBase ? mBase->GetResponseType() : StudyType());
 }

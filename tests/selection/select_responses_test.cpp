@@ -399,6 +399,10 @@ TEST_F(SelectResponsesTest, ReadsASectionWithoutASelectionAsNone) {
     responses.Read(root.get());
     EXPECT_THAT(responses.GetSelectedResponses(), ElementsAre("Y2"))
         << "the lists are brought in line all the same";
+    responses.SetSelectedResponses({});
+    responses.Read(nullptr);
+    EXPECT_THAT(responses.GetSelectedResponses(), ElementsAre("Y2"));
+    EXPECT_THROW(responses.Save(nullptr), InvalidArgument);
 }
 
 TEST_F(SelectResponsesTest, IsAValueThatSharesOnlyItsMirrorAndOwner) {

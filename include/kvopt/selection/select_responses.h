@@ -62,6 +62,7 @@ public:
     void LoadSettings(const PlotWizardIniSection& section);
     void SaveSettings(PlotWizardIniSection& section) const;
     /// A saved plot. A selection of everything is read as such, whatever the study holds by then.
+    /// A null section reads as one without a selection; writing to it throws InvalidArgument.
     void Read(const ConfigurationSection* section);
     void Save(ConfigurationSection* section) const;
 
