@@ -16,8 +16,8 @@ protected:
     ContourPageDataTest()
         : formerProfile_(UserProfile::Install(
               std::make_shared<UserProfile>(std::make_unique<IniFileSection>()))) {
-        study.Process("A", 0, 10);
-        study.Process("B", 0, 10);
+        study.Number("A", 0, 10);
+        study.Number("B", 0, 10);
         study.Response("Y1");
         study.Response("Y2");
         GeneralSettings::Install(&settings);
@@ -113,7 +113,7 @@ TEST_F(ContourPageDataTest, StartsInMixtureModeWithOneProcessFactorOrNone) {
 }
 
 TEST_F(ContourPageDataTest, HasConstraintsWithAConstraintMatrix) {
-    study.hasConstraintMatrix = true;
+    study.constraintMatrix = std::make_unique<FMatrix>();
     EXPECT_TRUE(Contour().HaveConstraints());
 }
 
@@ -241,8 +241,9 @@ TEST_F(ContourPageDataTest, WritesTheIniFileInOrderWithTwoKeysBesideTheViews) {
 }
 
 TEST_F(ContourPageDataTest, KeepsDesignSpaceSettingsApartAndErrorSwitchesByOrigin) {
+    const ContourPageData data = DesignSpace();
     files.Log().clear();
-    DesignSpace().SaveSettings("study.ini");
+    data.SaveSettings("study.ini");
     EXPECT_THAT(files.Log(), testing::Contains("[DesignSpacePlot] text PlotType = ds_probability"));
     EXPECT_THAT(files.Log(),
                 testing::Contains("[DesignSpacePlot] bool RErrorOnAxisFactors = true"));

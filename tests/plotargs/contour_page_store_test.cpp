@@ -13,8 +13,8 @@ using testing::ElementsAre;
 class ContourPageStoreTest : public testing::Test {
 protected:
     ContourPageStoreTest() {
-        study.Process("A", 0, 10);
-        study.Process("B", 0, 10);
+        study.Number("A", 0, 10);
+        study.Number("B", 0, 10);
         study.Response("Y1");
         study.Response("Y2");
     }

@@ -15,14 +15,14 @@ using testing::ElementsAre;
 class ContourPlotDataTest : public testing::Test {
 protected:
     ContourPlotDataTest() {
-        study.Process("A", 0, 10);
-        study.Process("B", 20, 30);
-        study.Process("C", 40, 50);
-        study.Process("D", 60, 70);
-        study.Qualitative("Cat", {"Pd", "Pt"});
-        study.Mixture("M1", 0, 0.5);
-        study.Mixture("M2", 0, 0.6);
-        study.Mixture("M3", 0, 0.7);
+        study.Number("A", 0, 10);
+        study.Number("B", 20, 30);
+        study.Number("C", 40, 50);
+        study.Number("D", 60, 70);
+        study.Names("Cat", {"Pd", "Pt"});
+        study.Part("M1", 0, 0.5);
+        study.Part("M2", 0, 0.6);
+        study.Part("M3", 0, 0.7);
         study.Response("Y");
     }
 

@@ -14,8 +14,8 @@ using FactorConstants::Constant;
 class ReportOverRideOptionsTest : public testing::Test {
 protected:
     ReportOverRideOptionsTest() {
-        study.Process("A", 0, 10);
-        study.Qualitative("Cat", {"Pd", "Pt"});
+        study.Number("A", 0, 10);
+        study.Names("Cat", {"Pd", "Pt"});
         options.Clear();
     }
     ~ReportOverRideOptionsTest() override { options.Clear(); }

@@ -31,18 +31,18 @@ struct GoldenCase {
 class SavedPlot : public testing::TestWithParam<GoldenCase> {
 protected:
     SavedPlot() {
-        study.Process("Temperature", 20, 80).units = "°C";
-        study.Process("Pressure", 0.1, 2.5).units = "bar";
-        study.Process("Time", 5, 60).units = "min";
-        study.Qualitative("Catalyst", {"Pd", "Pt", "Ni"});
-        study.Process("Unfitted", 0, 1);
-        study.Mixture("Water", 0.1, 0.8);
-        study.Mixture("Oil", 0.1, 0.6);
-        study.Mixture("Emulsifier", 0.05, 0.2);
+        study.Number("Temperature", 20, 80).units = "°C";
+        study.Number("Pressure", 0.1, 2.5).units = "bar";
+        study.Number("Time", 5, 60).units = "min";
+        study.Names("Catalyst", {"Pd", "Pt", "Ni"});
+        study.Number("Unfitted", 0, 1);
+        study.Part("Water", 0.1, 0.8);
+        study.Part("Oil", 0.1, 0.6);
+        study.Part("Emulsifier", 0.05, 0.2);
         for (const char* response : {"Yield", "Cost", "Purity"}) {
             study.Response(response);
         }
-        study.unused = {"Unfitted"};
+        study.inNoModel = {"Unfitted"};
         study.favouriteSetpoint.SetStart({50, 0.7F, 5, 2, 0.5F, 0.5F, 0.3F, 0.2F});
     }
 
@@ -232,10 +232,10 @@ TEST_P(HostileName, GoesThroughIniFileAndSavedPlotExactlyAlsoInAGermanProcess) {
     const std::string iniFile = folder.File("study.ini");
     const std::string plotFile = folder.File("plot.json");
     PlotStudy study;
-    study.Process("Other", 0, 1);
-    study.Qualitative("Cat", {"plain", name});
+    study.Number("Other", 0, 1);
+    study.Names("Cat", {"plain", name});
     if (!name.empty()) {
-        study.Process(name, 0, 1e7);
+        study.Number(name, 0, 1e7);
         study.Response(name);
     }
     study.Response("Y");

@@ -18,9 +18,9 @@ class WizardPlotDataTest : public testing::Test {
 protected:
     /// Three quantitative factors: A 0..10, B -1..1, C 100..200.
     void AddThreeFactors() {
-        study.Process("A", 0, 10);
-        study.Process("B", -1, 1);
-        study.Process("C", 100, 200);
+        study.Number("A", 0, 10);
+        study.Number("B", -1, 1);
+        study.Number("C", 100, 200);
     }
     static const FactorConstants::Constant* Find(const WizardPlotData& plot,
                                                  const std::string& name) {
@@ -110,8 +110,8 @@ TEST_F(WizardPlotDataTest, NamesThreePositionsEvenForFewerAxes) {
 }
 
 TEST_F(WizardPlotDataTest, MakesADefaultAxisForEachFactor) {
-    study.Process("A", 0.1, 10).units = "bar";
-    PlotStudy::Factor& catalyst = study.Qualitative("Cat", {"Pd", "Pt", "Ni"});
+    study.Number("A", 0.1, 10).units = "bar";
+    FactorClass& catalyst = study.Names("Cat", {"Pd", "Pt", "Ni"});
     catalyst.factorValue.included = {1, 3};
     catalyst.units = "type";
     const AnyPlotData plot(study);
@@ -168,14 +168,13 @@ class WizardPlotDataOrder : public WizardPlotDataTest,
                             public testing::WithParamInterface<OrderCase> {};
 
 TEST_P(WizardPlotDataOrder, FollowsKindAndContribution) {
-    AddThreeFactors();
-    study.Process("D", 0, 1);
-    study.optimum = {1, 0, 150, 0.5F};
-    study.contributions = GetParam().contributions;
-    const std::vector<FactorClass*> factors = study.GetVariables()->GetAllFactors();
-    for (std::size_t i = 0; i < GetParam().kinds.size(); ++i) {
-        dynamic_cast<PlotStudy::Factor&>(*factors[i]).kind = GetParam().kinds[i];
+    const Names names = {"A", "B", "C", "D"};
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        study.Add(std::make_unique<PlotStudy::KindFactor>(
+            names[i], GetParam().kinds.empty() ? 1 : GetParam().kinds[i]));
     }
+    study.optimum = {1, 0, 1, 0.5F};
+    study.contributions = GetParam().contributions;
     const AnyPlotData plot(study);
     EXPECT_EQ(NamesOf(plot.GetAxisDefaults()), GetParam().expected);
     EXPECT_EQ(plot.GetNumDefaults(), 4);
@@ -189,6 +188,7 @@ INSTANTIATE_TEST_SUITE_P(
         OrderCase{"GreaterFirst", {1, 4, 2, 3}, {}, {"-", "B", "D", "C", "A"}},
         OrderCase{"NegativeOnesToo", {-1, -4, -2, 0}, {}, {"-", "D", "A", "C", "B"}},
         OrderCase{"NotSetLast", {-99, 4, -200, 3}, {}, {"-", "B", "D", "C", "A"}},
+        OrderCase{"NotSetBehindWhatIsLess", {-200, -99, 4, 3}, {}, {"-", "C", "D", "A", "B"}},
         OrderCase{"NotANumberLast", {kNan, 4, -200, 3}, {}, {"-", "B", "D", "C", "A"}},
         OrderCase{"KindTwoFirst", {1, 4, 2, 3}, {2, 1, 2, 1}, {"-", "C", "A", "B", "D"}},
         OrderCase{"OtherKindsAreAlike", {1, 4, 2, 3}, {3, 0, 1, -1}, {"-", "B", "D", "C", "A"}},
@@ -210,7 +210,7 @@ TEST_F(WizardPlotDataTest, PrefersTheFavouriteToTheOptimumAsStart) {
 TEST_F(WizardPlotDataTest, OrdersByAvailabilityAloneInTheRepeatableOrder) {
     const FixedOrder fixed;
     AddThreeFactors();
-    study.Process("D", 0, 1);
+    study.Number("D", 0, 1);
     study.optimum = {1, 0, 150, 0.5F};
     study.contributions = {1, 4, 2, 3};
     study.unavailable = {"A", "C"};
@@ -247,7 +247,7 @@ TEST_F(WizardPlotDataTest, MakesEmptyDefaultsForADerivedObject) {
 
 TEST_F(WizardPlotDataTest, TakesConstantsFromTheStart) {
     AddThreeFactors();
-    study.Qualitative("Cat", {"Pd", "Pt"});
+    study.Names("Cat", {"Pd", "Pt"});
     study.optimum = {0, -99, 150, 1.6F};
     const AnyPlotData plot(study);
     EXPECT_EQ(DescribeConstants(plot.GetPlotConstants()),
@@ -259,7 +259,7 @@ TEST_F(WizardPlotDataTest, TakesConstantsFromTheStart) {
 
 TEST_F(WizardPlotDataTest, TakesConstantsFromTheIniFileWhereTheStartHasNone) {
     AddThreeFactors();
-    study.Qualitative("Cat", {"Pd", "Pt"});
+    study.Names("Cat", {"Pd", "Pt"});
     IniFactorConstant remembered(files.File("study.ini"));
     remembered.SetConstant("A", 2.5);
     remembered.SetConstant("B", 0.5);
@@ -274,7 +274,7 @@ TEST_F(WizardPlotDataTest, TakesConstantsFromTheIniFileWhereTheStartHasNone) {
 }
 
 TEST_F(WizardPlotDataTest, TakesTheRememberedSettingWhereTheStartNamesNone) {
-    study.Qualitative("Cat", {"Pd", "Pt"});
+    study.Names("Cat", {"Pd", "Pt"});
     IniFactorConstant(files.File("study.ini")).SetStrConstant("Cat", "Pt");
     for (const float start : {-99.0F, 0.4F, 2.5F, kNan, 1e30F, -1e30F}) {
         study.optimum = {start};
@@ -285,7 +285,7 @@ TEST_F(WizardPlotDataTest, TakesTheRememberedSettingWhereTheStartNamesNone) {
 }
 
 TEST_F(WizardPlotDataTest, MakesNoConstantOfASettingThatIsNoLongerIncluded) {
-    study.Qualitative("Cat", {"Pd", "Pt", "Ni"}).factorValue.included = {1, 3};
+    study.Names("Cat", {"Pd", "Pt", "Ni"}).factorValue.included = {1, 3};
     IniFactorConstant remembered(files.File("study.ini"));
     remembered.SetStrConstant("Cat", "Pt");
     EXPECT_EQ(Find(AnyPlotData(study), "Cat"), nullptr);
@@ -299,14 +299,14 @@ TEST_F(WizardPlotDataTest, MakesNoConstantOfASettingThatIsNoLongerIncluded) {
 }
 
 TEST_F(WizardPlotDataTest, MakesNoConstantOfAQualitativeFactorWithNothingRemembered) {
-    study.Qualitative("Cat", {"Pd", "Pt"});
+    study.Names("Cat", {"Pd", "Pt"});
     EXPECT_EQ(Find(AnyPlotData(study), "Cat"), nullptr);
 }
 
 TEST_F(WizardPlotDataTest, FallsBackOnReferenceMixtureAndCenterpoint) {
-    study.Mixture("M1", 0.2, 0.6);
-    study.Mixture("M2", 0.1, 0.5);
-    study.Process("P", 10, 30);
+    study.Part("M1", 0.2, 0.6);
+    study.Part("M2", 0.1, 0.5);
+    study.Number("P", 10, 30);
     const AnyPlotData plot(study);
     const Variables& variables = *study.GetVariables();
     EXPECT_EQ(Value(plot, "M1"), FactorConstants::GetQuantitativeFloatValue(
@@ -316,7 +316,7 @@ TEST_F(WizardPlotDataTest, FallsBackOnReferenceMixtureAndCenterpoint) {
 }
 
 TEST_F(WizardPlotDataTest, MakesNoConstantOfAFactorWithoutARange) {
-    study.Process("Open", kNotSet, kNotSet);
+    study.Number("Open", kNotSet, kNotSet);
     EXPECT_EQ(Find(AnyPlotData(study), "Open"), nullptr);
 }
 
@@ -330,7 +330,7 @@ TEST_F(WizardPlotDataTest, MakesNoConstantOfAnUnavailableFactor) {
 }
 
 TEST_F(WizardPlotDataTest, ClassifiesAConstantAgainstItsFactor) {
-    study.Process("A", 0, 10);
+    study.Number("A", 0, 10);
     study.optimum = {10};
     EXPECT_EQ(Find(AnyPlotData(study), "A")->SettingPos(), FactorConstants::HIGH);
     study.optimum = {3};
@@ -338,8 +338,8 @@ TEST_F(WizardPlotDataTest, ClassifiesAConstantAgainstItsFactor) {
 }
 
 TEST_F(WizardPlotDataTest, KeepsThePositionOfAConstantThatIsThereAlready) {
-    study.Process("A", 0, 10);
-    study.Process("A", 0, 10);  // the same name twice: the second meets the first's entry
+    study.Number("A", 0, 10);
+    study.Number("A", 0, 10);  // the same name twice: the second meets the first's entry
     study.optimum = {0, 7};
     const AnyPlotData plot(study);
     EXPECT_EQ(FactorConstants::NumConstants(plot.GetPlotConstants()), 1);
@@ -348,8 +348,8 @@ TEST_F(WizardPlotDataTest, KeepsThePositionOfAConstantThatIsThereAlready) {
 }
 
 TEST_F(WizardPlotDataTest, ReplacesTheSettingOfAConstantThatIsThereAlready) {
-    study.Qualitative("Cat", {"Pd", "Pt"});
-    study.Qualitative("Cat", {"Pd", "Pt"});
+    study.Names("Cat", {"Pd", "Pt"});
+    study.Names("Cat", {"Pd", "Pt"});
     study.optimum = {1, 2};
     const AnyPlotData plot(study);
     EXPECT_EQ(FactorConstants::NumConstants(plot.GetPlotConstants()), 1);
@@ -373,8 +373,8 @@ TEST_F(WizardPlotDataTest, SharesItsConstants) {
 
 TEST_F(WizardPlotDataTest, CountsTheFactorsThatLieOnNoAxis) {
     AddThreeFactors();
-    study.Process("Held", 0, 1).factorValue.use = CEUse::Constant;
-    study.Process("Gone", 0, 1);
+    study.Number("Held", 0, 1).factorValue.use = CEUse::Constant;
+    study.Number("Gone", 0, 1);
     study.unavailable = {"Gone"};
     AnyPlotData plot(study, 1, 2);
     auto& axes = plot.GetAxisInfo(1);

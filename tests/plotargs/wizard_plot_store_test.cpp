@@ -16,10 +16,10 @@ protected:
     using Plot = WizardPlotData;
 
     WizardPlotStoreTest() {
-        study.Process("A", 0, 10);
-        study.Qualitative("Cat", {"Pd", "Pt"});
-        study.Process("C", 100, 200);
-        study.Process("D", 0, 1);
+        study.Number("A", 0, 10);
+        study.Names("Cat", {"Pd", "Pt"});
+        study.Number("C", 100, 200);
+        study.Number("D", 0, 1);
     }
 
     /// The text at a path of the ini file, "absent" without the key.
@@ -102,7 +102,7 @@ TEST_F(WizardPlotStoreTest, WritesAnUnusedAxisLikeAnyOtherAndOfANamelessOneTheKe
 }
 
 TEST_F(WizardPlotStoreTest, WritesADefaultForAFactorWithoutAConstant) {
-    study.Mixture("M", 0.2, 0.4);
+    study.Part("M", 0.2, 0.4);
     const AnyPlotData plot(study);
     plot.GetPlotConstants()[0] = Constant();
     plot.WriteSettings(Plot::ContourAxis2D, 1, 0);
@@ -116,8 +116,8 @@ TEST_F(WizardPlotStoreTest, WritesADefaultForAFactorWithoutAConstant) {
 }
 
 TEST_F(WizardPlotStoreTest, WritesConstantsOfMixtureFactorsAndOfAvailableOnesInAModel) {
-    study.Mixture("M", 0.2, 0.4);
-    study.unused = {"A", "M"};
+    study.Part("M", 0.2, 0.4);
+    study.inNoModel = {"A", "M"};
     study.unavailable = {"C", "M"};
     const AnyPlotData plot(study);
     plot.WriteSettings(Plot::ContourAxis2D, 1, 0);
@@ -194,7 +194,7 @@ TEST_F(WizardPlotStoreTest, WritesAxesBeforeConstants) {
 }
 
 TEST_F(WizardPlotStoreTest, NumbersConstantsByTheFactorsPlaceWithGaps) {
-    study.unused = {"C"};
+    study.inNoModel = {"C"};
     const AnyPlotData plot(study);
     plot.WriteSection(root.get(), Plot::ContourAxis2D, 1, 0);
     const auto constants = root->GetSection("ContourAxis2D")->GetSection("Constants");
@@ -212,7 +212,7 @@ TEST_F(WizardPlotStoreTest, NumbersConstantsByTheFactorsPlaceWithGaps) {
 }
 
 TEST_F(WizardPlotStoreTest, DoesNotReadBackAnEntryWithANumberAboveTheCount) {
-    study.unused = {"C"};
+    study.inNoModel = {"C"};
     AnyPlotData plot(study);
     Find(plot, "A")->FloatValue(1);
     Find(plot, "D")->FloatValue(1);
@@ -398,7 +398,7 @@ TEST_F(SavedConstants, TakeAMissingValueAndSettingFromTheEntryBefore) {
 }
 
 TEST_F(SavedConstants, TakeAMissingTextFromTheQualitativeEntryBefore) {
-    study.Qualitative("Cat2", {"Pd", "Pt"});
+    study.Names("Cat2", {"Pd", "Pt"});
     Write(1, "Cat", nullptr, "Pt");
     Write(2, "Cat2", nullptr);
     study.optimum = {1, 1, 101, 0.75F, 1};
@@ -419,7 +419,7 @@ TEST_F(SavedConstants, DoNotTakeAMissingNameFromTheEntryBefore) {
 }
 
 TEST_F(SavedConstants, AreSkippedForUnknownUnusedAndUnavailableFactors) {
-    study.unused = {"A"};
+    study.inNoModel = {"A"};
     study.unavailable = {"C"};
     Write(1, "A", "LOW", 0.0);
     Write(2, "Nobody", "LOW", 0.0);
@@ -435,8 +435,8 @@ TEST_F(SavedConstants, OfASkippedFactorLeaveNothingBehind) {
 }
 
 TEST_F(SavedConstants, AreReadForAMixtureFactorInNoModel) {
-    study.Mixture("M", 0, 1);
-    study.unused = {"M"};
+    study.Part("M", 0, 1);
+    study.inNoModel = {"M"};
     Write(1, "M", "CUSTOM", 0.3);
     EXPECT_EQ(Read(true), "  M = 0.3 (CUSTOM)\n");
 }

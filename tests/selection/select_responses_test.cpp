@@ -90,11 +90,11 @@ TEST_F(SelectResponsesTest, AsksTheStudyForTheExtendedSetOrTheOrdinaryOne) {
 }
 
 TEST_F(SelectResponsesTest, TakesTheOrdinaryUniverseFromTheVariablesAndTheOtherFromTheManager) {
-    study.unavailableResponses = {"Y1"};
+    study.unavailable = {"Y1"};
     study.selected.clear();
     EXPECT_THAT(SelectResponses(&study, true).GetUnselectedResponses(), ElementsAre("Y2", "Y3"));
     EXPECT_THAT(SelectResponses(&study, false).GetUnselectedResponses(), ElementsAre("Y2", "Y3"));
-    study.OnlyExtended("Y4");
+    study.ExtraResponse("Y4");
     EXPECT_THAT(SelectResponses(&study, true).GetUnselectedResponses(),
                 ElementsAre("Y2", "Y3", "Y4"));
     EXPECT_THAT(SelectResponses(&study, false).GetUnselectedResponses(), ElementsAre("Y2", "Y3"));
@@ -140,7 +140,7 @@ TEST_F(SelectResponsesTest, StartsFromTheSelectionOfItsOwner) {
 }
 
 TEST_F(SelectResponsesTest, TakesTheKindOfResponsesFromItsOwner) {
-    study.OnlyExtended("Y4");
+    study.ExtraResponse("Y4");
     SelectResponseBase extended(SelectResponseBase::Extended);
     SelectResponseBase ordinary(SelectResponseBase::Ordinary);
     EXPECT_THAT(SelectResponses(&study, &extended).GetUnselectedResponses(),

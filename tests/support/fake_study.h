@@ -61,6 +61,18 @@ public:
         return Extend(extras_.back().get(), type);
     }
 
+    /// The analyst deletes a factor, or a response; nothing for an unknown name.
+    void RemoveFactor(const std::string& name) {
+        std::erase_if(factors_, [&](const auto& factor) { return factor->GetName() == name; });
+    }
+    void RemoveResponse(const std::string& name) {
+        const auto isNamed = [&](const auto& record) { return record->GetName() == name; };
+        std::erase_if(pointers_, isNamed);
+        std::erase_if(extended_, isNamed);
+        std::erase_if(responses_, isNamed);
+        std::erase_if(extras_, isNamed);
+    }
+
     /// Factors and responses that may not be plotted.
     std::set<std::string> unavailable;
     /// Factors that no model uses.
@@ -75,6 +87,7 @@ public:
     std::vector<float> contributions;  ///< one for each factor; empty for no answer
     std::vector<float> optimum;        ///< one for each factor; empty for no answer
     std::set<std::string> fitted;      ///< responses with a fit
+    std::unique_ptr<FMatrix> constraintMatrix;
 
     Variables* GetVariables() const override { return &variables_; }
     ResponseManager* GetResponseManager() const override { return &manager_; }
@@ -96,6 +109,8 @@ private:
         std::vector<ResponseClass*> GetAllResponses() const override {
             return Pointers(study_.responses_);
         }
+
+        FMatrix* GetConstraints() const override { return study_.constraintMatrix.get(); }
 
     private:
         template <class Record>
