@@ -56,11 +56,12 @@ ModelFit::ModelFit(const StudyData& study, const StudyResponse& response)
     std::vector<std::vector<double>> rows;
     if (column != study.runs.columns.end()) {
         const auto index = static_cast<std::size_t>(column - study.runs.columns.begin());
+        const RunPoints points(study);
         for (std::size_t r = 0; r < study.runs.rows.size(); ++r) {
             if (const auto* value = std::get_if<double>(&study.runs.rows[r][index])) {
                 runs_.push_back(r);
                 observed_.push_back(Transformed(transform_, *value));
-                rows.push_back(matrix_->Row(RunPoint(study, r)));
+                rows.push_back(matrix_->Row(points.Point(r)));
             }
         }
     }

@@ -1,6 +1,7 @@
 #include "host/model_matrix.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "kvopt/text/kv_string.h"
 
@@ -86,13 +87,24 @@ std::vector<double> ModelMatrix::Row(const std::vector<double>& point) const {
     return row;
 }
 
-std::vector<double> RunPoint(const StudyData& study, std::size_t run) {
+RunPoints::RunPoints(const StudyData& study) : study_(study) {
+    std::unordered_map<std::string, std::size_t> places;
+    for (std::size_t c = 0; c < study.runs.columns.size(); ++c) {
+        places.emplace(study.runs.columns[c], c);
+    }
+    if (!places.empty()) {
+        for (const StudyFactor& factor : study.factors) {
+            columns_.push_back(places.at(factor.name));
+        }
+    }
+}
+
+std::vector<double> RunPoints::Point(std::size_t run) const {
     std::vector<double> point;
-    for (const StudyFactor& factor : study.factors) {
-        const auto column =
-            std::find(study.runs.columns.begin(), study.runs.columns.end(), factor.name);
-        const auto index = static_cast<std::size_t>(column - study.runs.columns.begin());
-        const StudyCell& cell = study.runs.rows[run][index];
+    point.reserve(columns_.size());
+    for (std::size_t f = 0; f < columns_.size(); ++f) {
+        const StudyFactor& factor = study_.factors[f];
+        const StudyCell& cell = study_.runs.rows[run][columns_[f]];
         point.push_back(IsQualitative(factor) ? SettingIndex(factor, std::get<std::string>(cell))
                                               : std::get<double>(cell));
     }

@@ -41,8 +41,17 @@ private:
     std::vector<std::string> columnNames_;
 };
 
-/// The point of a run, by the columns of the study. The run must have passed CheckStudy().
-std::vector<double> RunPoint(const StudyData& study, std::size_t run);
+/// The points of a study's runs. The study must have passed CheckStudy() and outlives the object.
+class RunPoints {
+public:
+    explicit RunPoints(const StudyData& study);
+
+    std::vector<double> Point(std::size_t run) const;
+
+private:
+    const StudyData& study_;
+    std::vector<std::size_t> columns_;  ///< of each factor
+};
 
 /// The one-based index of a setting by its exact name, 0 for an unknown one.
 int SettingIndex(const StudyFactor& factor, const std::string& setting);

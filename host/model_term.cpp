@@ -23,8 +23,25 @@ std::string_view Trimmed(std::string_view text) {
 
 }  // namespace
 
-ModelTerm ParseModelTerm(const StudyData& study, const std::string& text,
-                         const std::string& pointer) {
+ModelTermReader::ModelTermReader(const StudyData& study) : study_(study) {
+    for (std::size_t f = 0; f < study.factors.size(); ++f) {
+        factors_.emplace(study.factors[f].abbreviation, f);
+    }
+}
+
+void ModelTermReader::FailUnknown(const std::string& part, const std::string& text,
+                                  const std::string& pointer) const {
+    std::vector<std::string> known;
+    std::string expected = "abbreviations of factors (";
+    for (const StudyFactor& factor : study_.factors) {
+        expected += (known.empty() ? "" : ", ") + factor.abbreviation;
+        known.push_back(factor.abbreviation);
+    }
+    throw StudyFault{pointer, expected + ") joined by *",
+                     Quoted(part) + " in the term " + Quoted(text) + Hint(part, known)};
+}
+
+ModelTerm ModelTermReader::Read(const std::string& text, const std::string& pointer) const {
     ModelTerm term;
     const std::string_view whole = text;
     for (std::size_t start = 0; start <= whole.size();) {
@@ -42,27 +59,20 @@ ModelTerm ParseModelTerm(const StudyData& study, const std::string& text,
             }
             part = part.substr(0, caret);
         }
-        part = Trimmed(part);
-        const auto factor = std::find_if(
-            study.factors.begin(), study.factors.end(),
-            [&](const StudyFactor& candidate) { return candidate.abbreviation == part; });
-        if (factor == study.factors.end()) {
-            std::vector<std::string> known;
-            std::string expected = "abbreviations of factors (";
-            for (const StudyFactor& candidate : study.factors) {
-                expected += (known.empty() ? "" : ", ") + candidate.abbreviation;
-                known.push_back(candidate.abbreviation);
-            }
-            throw StudyFault{pointer, expected + ") joined by *",
-                             Quoted(part) + " in the term " + Quoted(text) + Hint(part, known)};
+        const std::string abbreviation(Trimmed(part));
+        const auto factor = factors_.find(abbreviation);
+        if (factor == factors_.end()) {
+            FailUnknown(abbreviation, text, pointer);
         }
-        term.insert(term.end(), static_cast<std::size_t>(power),
-                    static_cast<std::size_t>(factor - study.factors.begin()));
+        term.insert(term.end(), static_cast<std::size_t>(power), factor->second);
     }
     std::sort(term.begin(), term.end());
-    const auto twice = std::adjacent_find(term.begin(), term.end());
-    if (twice != term.end() && IsQualitative(study.factors[*twice])) {
-        throw StudyFault{pointer, "no power of a qualitative factor", "the term " + Quoted(text)};
+    for (auto twice = std::adjacent_find(term.begin(), term.end()); twice != term.end();
+         twice = std::adjacent_find(twice + 1, term.end())) {
+        if (IsQualitative(study_.factors[*twice])) {
+            throw StudyFault{pointer, "no power of a qualitative factor",
+                             "the term " + Quoted(text)};
+        }
     }
     return term;
 }
@@ -78,8 +88,9 @@ std::string TermName(const StudyData& study, const ModelTerm& term) {
 std::vector<ModelTerm> ModelTerms(const StudyData& study, const StudyResponse& response) {
     std::vector<ModelTerm> terms;
     if (response.hasModel) {
+        const ModelTermReader reader(study);
         for (const std::string& text : response.model.terms) {
-            terms.push_back(ParseModelTerm(study, text, {}));
+            terms.push_back(reader.Read(text, {}));
         }
     }
     return terms;

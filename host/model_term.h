@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "kvopt/host/study_data.h"
@@ -11,10 +13,22 @@ namespace kvopt {
 /// its n-th power.
 using ModelTerm = std::vector<std::size_t>;
 
-/// Reads "A", "A*B" or "A^2*B" with the abbreviations of the study's factors; blanks around them
-/// count for nothing. Throws a StudyFault at `pointer` for a term that cannot be.
-ModelTerm ParseModelTerm(const StudyData& study, const std::string& text,
-                         const std::string& pointer);
+/// Reads model terms of one study, which outlives the reader.
+class ModelTermReader {
+public:
+    explicit ModelTermReader(const StudyData& study);
+
+    /// Reads "A", "A*B" or "A^2*B" with the abbreviations of the study's factors; blanks around
+    /// them count for nothing. Throws a StudyFault at `pointer` for a term that cannot be.
+    ModelTerm Read(const std::string& text, const std::string& pointer) const;
+
+private:
+    [[noreturn]] void FailUnknown(const std::string& part, const std::string& text,
+                                  const std::string& pointer) const;
+
+    const StudyData& study_;
+    std::unordered_map<std::string, std::size_t> factors_;  ///< by abbreviation
+};
 
 /// The term in the one form of this system: abbreviations joined by "*", powers written out.
 std::string TermName(const StudyData& study, const ModelTerm& term);

@@ -96,7 +96,10 @@ ReferenceVariables::ReferenceVariables(const Investigation* study, const StudyDa
     : data_(data), mixture_(mixture), constraints_(ConstraintMatrix(data)) {
     for (const StudyFactor& factor : data.factors) {
         factors_.push_back(MakeFactor(study, factor));
-        factors_.back()->index = static_cast<int>(factors_.size());
+        FactorClass* added = factors_.back().get();
+        added->index = static_cast<int>(factors_.size());
+        byName_.emplace(added->name, added);
+        byAbbreviation_.emplace(added->abbreviation, added);
     }
     for (const StudyResponse& response : data.responses) {
         if (response.type == ResponseEx::Regular) {
@@ -125,6 +128,27 @@ std::vector<ResponseClass*> ReferenceVariables::GetAllResponses() const {
     return responses;
 }
 
+const FactorClass* ReferenceVariables::GetIndexFactor(int index) const {
+    return index < 1 || index > static_cast<int>(factors_.size())
+               ? nullptr
+               : factors_[static_cast<std::size_t>(index - 1)].get();
+}
+
+std::string ReferenceVariables::GetFactor(int index) const {
+    const FactorClass* factor = GetIndexFactor(index);
+    return factor == nullptr ? std::string() : factor->name;
+}
+
+FactorClass* ReferenceVariables::GetFactor(const std::string& name) const {
+    const auto found = byName_.find(name);
+    return found == byName_.end() ? nullptr : found->second;
+}
+
+FactorClass* ReferenceVariables::GetFactorFromAbbr(const std::string& abbreviation) const {
+    const auto found = byAbbreviation_.find(abbreviation);
+    return found == byAbbreviation_.end() ? nullptr : found->second;
+}
+
 bool ReferenceVariables::IstrueFiller() const {
     return mixture_.HasTrueFiller();
 }
@@ -134,12 +158,12 @@ FMatrix* ReferenceVariables::GetConstraints() const {
 }
 
 std::size_t ReferenceVariables::FindPart(const std::string& name) const {
-    for (std::size_t f = 0; f < data_.factors.size(); ++f) {
-        if (mixture_.IsPart(f) && data_.factors[f].name == name) {
-            return f;
-        }
+    const auto found = byName_.find(name);
+    if (found == byName_.end()) {
+        return data_.factors.size();
     }
-    return data_.factors.size();
+    const auto place = static_cast<std::size_t>(found->second->index - 1);
+    return mixture_.IsPart(place) ? place : data_.factors.size();
 }
 
 double ReferenceVariables::GetPseudoComponent(const FactorClass* factor, double value,

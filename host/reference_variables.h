@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "host/mixture.h"
@@ -17,12 +18,18 @@ class Investigation;
 /// The factors and responses of a reference study.
 class ReferenceVariables final : public Variables {
 public:
+    using Variables::GetFactor;
+
     /// `study` and `data` outlive the object.
     ReferenceVariables(const Investigation* study, const StudyData& data, const Mixture& mixture);
     ~ReferenceVariables() override;
 
     std::vector<FactorClass*> GetAllFactors() const override;
     std::vector<ResponseClass*> GetAllResponses() const override;
+    const FactorClass* GetIndexFactor(int index) const override;
+    FactorClass* GetFactor(const std::string& name) const override;
+    std::string GetFactor(int index) const override;
+    FactorClass* GetFactorFromAbbr(const std::string& abbreviation) const override;
     bool IstrueFiller() const override;
     FMatrix* GetConstraints() const override;
     double GetPseudoComponent(const FactorClass* factor, double value,
@@ -38,6 +45,8 @@ private:
     const StudyData& data_;
     const Mixture& mixture_;
     std::vector<std::unique_ptr<FactorClass>> factors_;
+    std::unordered_map<std::string, FactorClass*> byName_;
+    std::unordered_map<std::string, FactorClass*> byAbbreviation_;
     std::vector<std::unique_ptr<ResponseClass>> responses_;
     std::unique_ptr<FMatrix> constraints_;
 };

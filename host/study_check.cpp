@@ -1,198 +1,58 @@
 #include "host/study_check.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <set>
 
 #include "host/json_node.h"
 #include "host/json_place.h"
 #include "host/model_term.h"
+#include "host/study_check_tools.h"
 #include "host/study_fault.h"
-#include "kvopt/study/axis_info.h"
 #include "kvopt/text/kv_string.h"
 
 namespace kvopt {
 namespace {
 
-std::string Step(const char* list, std::size_t index) {
-    return "/" + std::string(list) + "/" + std::to_string(index);
-}
+/// Interactions of qualitative factors multiply: without a bound a short file could ask for more
+/// memory than there is.
+constexpr std::size_t kMostCoefficients = 100000;
 
-/// Names that must differ from each other, with the place of each.
-class UniqueNames {
-public:
-    explicit UniqueNames(std::string what) : what_(std::move(what)) {}
-
-    void Add(const std::string& name, const std::string& pointer) {
-        if (name.empty()) {
-            throw StudyFault{pointer, "a name", "an empty text"};
+/// Stops counting beyond the most that a model may have.
+std::size_t CountCoefficients(const StudyData& study, const ModelTerm& term) {
+    std::size_t count = 1;
+    for (const std::size_t factor : term) {
+        if (IsQualitative(study.factors[factor])) {
+            count *= study.factors[factor].settings.size() - 1;
         }
-        if (name.find('\0') != std::string::npos) {
-            throw StudyFault{pointer, "a name without the character U+0000", Quoted(name)};
-        }
-        const auto [known, isNew] = places_.emplace(name, pointer);
-        if (!isNew) {
-            throw StudyFault{pointer, what_ + " that differs from that at " + known->second,
-                             Quoted(name) + " again"};
+        if (count > kMostCoefficients) {
+            break;
         }
     }
-
-private:
-    std::string what_;
-    std::map<std::string, std::string> places_;
-};
-
-void CheckNumber(double number, const std::string& pointer) {
-    if (!std::isfinite(number)) {
-        throw StudyFault{pointer, "a finite number", KvString::FromDouble(number)};
-    }
-}
-
-void CheckRange(double low, double high, const std::string& pointer) {
-    if (low != kNotSet) {
-        CheckNumber(low, pointer + "/low");
-    }
-    if (high != kNotSet) {
-        CheckNumber(high, pointer + "/high");
-    }
-    if (low != kNotSet && high != kNotSet && low > high) {
-        throw StudyFault{pointer, "a low that is not above the high " + KvString::FromDouble(high),
-                         "the low " + KvString::FromDouble(low)};
-    }
-}
-
-void CheckAbbreviation(const StudyFactor& factor, const std::string& pointer, UniqueNames& names) {
-    const std::string& text = factor.abbreviation;
-    names.Add(text, pointer);
-    constexpr std::string_view kBlanks = " \t\r\n";
-    if (text.find_first_of("*^") != std::string::npos ||
-        kBlanks.find(text.front()) != kBlanks.npos || kBlanks.find(text.back()) != kBlanks.npos) {
-        throw StudyFault{pointer, "an abbreviation without *, ^ and blanks at its ends",
-                         Quoted(text)};
-    }
-}
-
-void CheckSettings(const StudyFactor& factor, const std::string& pointer) {
-    if (factor.settings.empty()) {
-        throw StudyFault{pointer, "at least one setting", "none"};
-    }
-    UniqueNames names("a setting");
-    bool isAnyIncluded = false;
-    double previous = 0.0;
-    for (std::size_t s = 0; s < factor.settings.size(); ++s) {
-        const StudySetting& setting = factor.settings[s];
-        const std::string place = pointer + "/" + std::to_string(s);
-        names.Add(setting.name, place);
-        isAnyIncluded = isAnyIncluded || setting.included;
-        if (IsQualitative(factor)) {
-            continue;
-        }
-        double value = 0.0;
-        if (!KvString::ToDouble(setting.name, value) || value == kNotSet) {
-            throw StudyFault{place, "a number other than -99", Quoted(setting.name)};
-        }
-        if (s > 0 && value <= previous) {
-            throw StudyFault{place, "levels in ascending order", KvString::FromDouble(value)};
-        }
-        previous = value;
-    }
-    if (!isAnyIncluded) {
-        throw StudyFault{pointer, "at least one included setting", "none"};
-    }
-}
-
-void CheckFactor(const StudyData& study, const StudyFactor& factor, const std::string& pointer) {
-    const bool isBlock = factor.name == kBlockFactorName;
-    if (AxisInfo::IsNotUsedName(factor.name)) {
-        throw StudyFault{pointer + "/name", "a name other than that of an unused axis",
-                         Quoted(factor.name)};
-    }
-    if (isBlock && !(IsQualitative(factor) && factor.use == CEUse::Controlled)) {
-        throw StudyFault{pointer, "the type block for the factor " + Quoted(factor.name),
-                         "another type or use"};
-    }
-    if (factor.precision != kNotSet) {
-        CheckNumber(factor.precision, pointer + "/precision");
-        if (IsQualitative(factor)) {
-            throw StudyFault{pointer + "/precision", "a precision of a numeric factor only",
-                             "a qualitative factor"};
-        }
-        if (factor.precision <= 0.0) {
-            throw StudyFault{pointer + "/precision", "a standard deviation above 0",
-                             KvString::FromDouble(factor.precision)};
-        }
-    }
-    if (HasListedSettings(factor)) {
-        CheckSettings(factor, pointer + "/settings");
-        return;
-    }
-    if (!factor.settings.empty()) {
-        throw StudyFault{pointer + "/settings", "settings of a factor with listed levels only",
-                         "a factor with a range"};
-    }
-    for (const auto& [value, key] :
-         {std::pair(factor.low, "low"), std::pair(factor.high, "high")}) {
-        if (value == kNotSet) {
-            throw StudyFault{pointer, "the key " + Quoted(key), "a factor without it"};
-        }
-    }
-    CheckRange(factor.low, factor.high, pointer);
-    if (IsComponent(factor) && (factor.low < 0.0 || factor.high > study.mixtureTotal)) {
-        throw StudyFault{
-            pointer,
-            "bounds from 0 to the mixture total " + KvString::FromDouble(study.mixtureTotal),
-            KvString::FromDouble(factor.low) + " to " + KvString::FromDouble(factor.high)};
-    }
-}
-
-void CheckTotal(double total) {
-    CheckNumber(total, "/mixtureTotal");
-    if (total <= 0.0) {
-        throw StudyFault{"/mixtureTotal", "a total above 0", KvString::FromDouble(total)};
-    }
-}
-
-void CheckMixture(const StudyData& study) {
-    double low = 0.0;
-    double high = 0.0;
-    int fillers = 0;
-    bool isMixture = false;
-    for (std::size_t f = 0; f < study.factors.size(); ++f) {
-        const StudyFactor& factor = study.factors[f];
-        if (!IsComponent(factor)) {
-            continue;
-        }
-        isMixture = true;
-        fillers += factor.type == CEType::Filler ? 1 : 0;
-        if (fillers > 1) {
-            throw StudyFault{Step("factors", f) + "/type", "one filler at most", "a second one"};
-        }
-        low += factor.low;
-        high += factor.high;
-    }
-    const double slack = kMixtureTolerance * study.mixtureTotal;
-    if (isMixture && (low > study.mixtureTotal + slack || high < study.mixtureTotal - slack)) {
-        throw StudyFault{
-            "/factors",
-            "bounds that a mixture of " + KvString::FromDouble(study.mixtureTotal) + " can keep",
-            "lows that add up to " + KvString::FromDouble(low) + " and highs that add up to " +
-                KvString::FromDouble(high)};
-    }
+    return count;
 }
 
 void CheckModel(const StudyData& study, const StudyResponse& response, const std::string& pointer) {
     if (!response.model.intercept && response.model.terms.empty()) {
         throw StudyFault{pointer, "a model with an intercept or at least one term", "neither"};
     }
+    const ModelTermReader reader(study);
     std::map<ModelTerm, std::string> places;
+    std::size_t coefficients = 1;
     for (std::size_t t = 0; t < response.model.terms.size(); ++t) {
         const std::string place = pointer + Step("terms", t);
         const std::string& text = response.model.terms[t];
-        const auto [known, isNew] = places.emplace(ParseModelTerm(study, text, place), place);
+        const ModelTerm term = reader.Read(text, place);
+        const auto [known, isNew] = places.emplace(term, place);
         if (!isNew) {
             throw StudyFault{place, "a term that differs from that at " + known->second,
                              Quoted(text) + " again"};
+        }
+        coefficients += CountCoefficients(study, term);
+        if (coefficients > kMostCoefficients) {
+            throw StudyFault{
+                place, "a model of at most " + std::to_string(kMostCoefficients) + " coefficients",
+                "more"};
         }
     }
 }
@@ -334,11 +194,8 @@ void CheckBlocking(const StudyData& study) {
 
 void CheckStudy(const StudyData& study) {
     UniqueNames names("a name");
-    UniqueNames abbreviations("an abbreviation");
     for (std::size_t f = 0; f < study.factors.size(); ++f) {
-        const std::string pointer = Step("factors", f);
-        names.Add(study.factors[f].name, pointer + "/name");
-        CheckAbbreviation(study.factors[f], pointer + "/abbreviation", abbreviations);
+        names.Add(study.factors[f].name, Step("factors", f) + "/name");
     }
     for (std::size_t r = 0; r < study.responses.size(); ++r) {
         names.Add(study.responses[r].name, Step("responses", r) + "/name");
@@ -346,11 +203,7 @@ void CheckStudy(const StudyData& study) {
     for (std::size_t l = 0; l < study.labels.size(); ++l) {
         names.Add(study.labels[l], Step("labels", l));
     }
-    CheckTotal(study.mixtureTotal);
-    for (std::size_t f = 0; f < study.factors.size(); ++f) {
-        CheckFactor(study, study.factors[f], Step("factors", f));
-    }
-    CheckMixture(study);
+    CheckFactors(study);
     for (std::size_t r = 0; r < study.responses.size(); ++r) {
         CheckResponse(study, study.responses[r], Step("responses", r));
     }

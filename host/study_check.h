@@ -9,6 +9,9 @@ namespace kvopt {
 /// pointer of the fault is that of the same element in a study file.
 void CheckStudy(const StudyData& study);
 
+/// The part of CheckStudy() that looks at the factors and the mixture, less their names.
+void CheckFactors(const StudyData& study);
+
 /// The part of CheckStudy() that looks at the runs; the rest is known to be sound.
 void CheckRuns(const StudyData& study);
 

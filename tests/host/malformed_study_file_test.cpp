@@ -67,6 +67,59 @@ TEST(StudyFile, TakesTheStudyThatTheMalformedOnesAreMadeFrom) {
     EXPECT_EQ(study.runs.rows.size(), 2U);
 }
 
+/// Reads a text that may be no study; anything but a FileFormatError leaves the test.
+bool IsTaken(const std::string& text) {
+    try {
+        ParseStudy(text, "mutated.json");
+        return true;
+    } catch (const FileFormatError&) {
+        return false;
+    }
+}
+
+TEST(StudyFile, RefusesAModelThatWouldFillTheMemory) {
+    std::string settings;
+    for (int s = 0; s < 50; ++s) {
+        settings += (s == 0 ? "\"" : ", \"") + std::to_string(s) + "\"";
+    }
+    std::string factors;
+    for (const char name : {'A', 'B', 'C', 'D', 'E', 'F'}) {
+        factors += std::string(name == 'A' ? "" : ",") + "{\"name\": \"" + name +
+                   "\", \"type\": \"qualitative\", \"settings\": [" + settings + "]}";
+    }
+    try {
+        ParseStudy(R"({"format": "kvopt-study", "version": 1, "name": "n", "factors": [)" +
+                       factors +
+                       R"(], "responses": [{"name": "y", "model": {"terms": ["A*B*C*D*E*F"]}}]})",
+                   "large.json");
+        FAIL() << "was taken";
+    } catch (const FileFormatError& error) {
+        EXPECT_EQ(error.Place().substr(0, 27), "/responses/0/model/terms/0,");
+        EXPECT_EQ(error.Expected(), "a model of at most 100000 coefficients");
+        EXPECT_EQ(error.Found(), "more");
+    }
+}
+
+TEST(StudyFile, IsRefusedWhereverItIsCutOff) {
+    for (std::size_t length = 0; length < kSound.size(); ++length) {
+        EXPECT_FALSE(IsTaken(kSound.substr(0, length))) << length;
+    }
+}
+
+TEST(StudyFile, LetsNothingButItsOwnErrorOutOfMutatedTexts) {
+    int taken = 0;
+    for (const std::string put :
+         {"", "\"", "{", "]", "-99", "1e308", "\\u0000", "\xC3", "null", "*^"}) {
+        for (std::size_t at = 0; at < kSound.size(); ++at) {
+            std::string text = kSound;
+            text.replace(at, put.empty() ? 2 : 1, put);
+            taken += IsTaken(text) ? 1 : 0;
+        }
+    }
+    // Notes, units and the like may hold anything.
+    EXPECT_GT(taken, 0);
+}
+
 TEST_P(MalformedStudyFile, IsRefusedWithItsPlaceWhatWasExpectedAndWhatWasFound) {
     const Malformed& row = GetParam();
     std::string text = kSound;
