@@ -5,6 +5,7 @@
 #include <kvopt/sheets.h>
 #include <kvopt/stores.h>
 #include <kvopt/study.h>
+#include <kvopt/text.h>
 
 namespace {
 

@@ -5,7 +5,9 @@
 #include <kvopt/scripted.h>
 #include <kvopt/stores.h>
 #include <kvopt/study.h>
+#include <kvopt/text.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -32,7 +34,7 @@ void WriteText(const std::string& fileName, const std::string& text) {
 void PrintSummary(const kvopt::ReferenceStudy& study, const kvopt::ContourPlotData* plot) {
     const kvopt::StudyData& data = study.Data();
     std::cout << "Study   " << data.name << "\n        " << data.factors.size() << " factors, "
-              << data.responses.size() << " responses, " << data.runs.size() << " runs\n";
+              << data.responses.size() << " responses, " << data.runs.rows.size() << " runs\n";
     std::cout << "Wizard  " << (plot != nullptr ? "finished" : "not finished") << "\n";
     if (plot == nullptr) {
         return;
