@@ -1,0 +1,83 @@
+#include "qt/peer.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QSignalBlocker>
+
+#include "kvopt/qt/qt_desktop.h"
+#include "qt/qt_text.h"
+
+namespace kvopt {
+
+Peer::Peer(QtDesktop& desktop, CControl& model, QWidget& widget)
+    : QObject(&widget), desktop_(desktop), model_(&model), widget_(widget) {
+    model.AddListener(this);
+    widget.installEventFilter(this);
+    widget.setObjectName(QString::number(model.Number()));
+}
+
+Peer::~Peer() {
+    if (model_ != nullptr) {
+        model_->RemoveListener(this);
+    }
+}
+
+void Peer::OnWindowGone(CWnd& /*window*/) {
+    model_ = nullptr;
+}
+
+void Peer::OnWindowChanged(CWnd& /*window*/, WindowChange change) {
+    PushBlocked(change);
+}
+
+void Peer::ShowAll() {
+    for (const auto change :
+         {WindowChange::Range, WindowChange::Items, WindowChange::Text, WindowChange::Selection,
+          WindowChange::Check, WindowChange::Cells, WindowChange::Enabled, WindowChange::Visible}) {
+        PushBlocked(change);
+    }
+}
+
+void Peer::PushBlocked(WindowChange change) {
+    if (model_ == nullptr) {
+        return;
+    }
+    const bool outer = pushing_;
+    pushing_ = true;
+    const QSignalBlocker blocker(&widget_);
+    switch (change) {
+        case WindowChange::Enabled:
+            widget_.setEnabled(model_->IsEnabled());
+            break;
+        case WindowChange::Visible:
+            widget_.setVisible(model_->IsVisible());
+            break;
+        case WindowChange::Focus:
+            widget_.setFocus(Qt::OtherFocusReason);
+            break;
+        default:
+            Push(change);
+            widget_.setAccessibleName(ToQt(model_->AccessibleName()));
+            break;
+    }
+    pushing_ = outer;
+}
+
+void Peer::User(const std::function<void()>& action) {
+    if (model_ != nullptr && !pushing_) {
+        desktop_.Guard(action);
+    }
+}
+
+bool Peer::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+            reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason) {
+            User([this] { model_->UserFocus(); });
+        }
+    }
+    return false;
+}
+
+}  // namespace kvopt
