@@ -1,6 +1,6 @@
 #include "qt/qt_gestures.h"
 
-#include <QtTest/qtestkey.h>
+#include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 
 #include <QAbstractItemView>

@@ -1,6 +1,6 @@
 #include "kvopt/qt/qt_player.h"
 
-#include <QtTest/qtestkey.h>
+#include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 
 #include <QAbstractButton>

@@ -283,9 +283,14 @@ bool WorksheetPeer::FilterViewport(QEvent* event) {
         case QEvent::MouseMove: {
             const QPoint pixel = static_cast<QMouseEvent*>(event)->position().toPoint();
             const CPoint cell = CellAt(pixel);
-            const CRect rect = cell == CPoint{} ? CRect{} : CellRect(cell);
+            // Told from the cell's own corner, so that a place in the cell is the same number
+            // wherever the cell stands.
+            const CRect place = cell == CPoint{} ? CRect{} : CellRect(cell);
+            const CPoint inCell{pixel.x() - place.left, pixel.y() - place.top};
             bool taken = false;
-            User([&] { taken = model_.UserMouseMove(ToPoint(pixel), cell, rect); });
+            User([&] {
+                taken = model_.UserMouseMove(inCell, cell, {0, 0, place.Width(), place.Height()});
+            });
             return taken;
         }
         case QEvent::MouseButtonPress: {
