@@ -12,7 +12,6 @@ namespace kvopt {
 Peer::Peer(QtDesktop& desktop, CControl& model, QWidget& widget)
     : QObject(&widget), desktop_(desktop), model_(&model), widget_(widget) {
     model.AddListener(this);
-    widget.installEventFilter(this);
     widget.setObjectName(QString::number(model.Number()));
 }
 
@@ -31,6 +30,8 @@ void Peer::OnWindowChanged(CWnd& /*window*/, WindowChange change) {
 }
 
 void Peer::ShowAll() {
+    // Not before the derived peer is complete: the first children of the widget come as events.
+    widget_.installEventFilter(this);
     for (const auto change :
          {WindowChange::Range, WindowChange::Items, WindowChange::Text, WindowChange::Selection,
           WindowChange::Check, WindowChange::Cells, WindowChange::Enabled, WindowChange::Visible}) {

@@ -102,7 +102,9 @@ void WorksheetPeer::ShowColumns() {
         header.setSectionResizeMode(
             column - 1, column == kNameColumn ? QHeaderView::Stretch : QHeaderView::Interactive);
         if (column != kNameColumn) {
-            header.resizeSection(column - 1, content->ColumnWidth(column));
+            // The grid line takes one pixel of the section.
+            const int line = table_.showGrid() ? 1 : 0;
+            header.resizeSection(column - 1, content->ColumnWidth(column) + line);
         }
     }
 }
@@ -217,7 +219,7 @@ bool WorksheetPeer::eventFilter(QObject* watched, QEvent* event) {
     if (Model() == nullptr) {
         return false;
     }
-    if (watched == editor_) {
+    if (editor_ != nullptr && watched == editor_) {
         return FilterEditor(event);
     }
     if (watched == table_.viewport()) {

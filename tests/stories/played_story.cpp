@@ -1,6 +1,14 @@
 #include "tests/stories/played_story.h"
 
 #include "kvopt/platform/transcript.h"
+#if defined(KVOPT_HAS_QT)
+#include <QApplication>
+#include <cstdlib>
+#include <filesystem>
+
+#include "kvopt/qt.h"
+#endif
+
 #include "kvopt/scripted/scripted_desktop.h"
 #include "tests/stories/story_stage.h"
 
@@ -18,12 +26,57 @@ private:
     ScriptedDesktop desktop_;
 };
 
+#if defined(KVOPT_HAS_QT)
+/// The one application of the process; offscreen unless the environment says otherwise.
+void NeedApplication() {
+    static int count = 1;
+    static char name[] = "stories";
+    static char* words[] = {name, nullptr};
+    if (qApp == nullptr) {
+        qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty()
+                                       ? QByteArray("offscreen")
+                                       : qgetenv("QT_QPA_PLATFORM"));
+        // Never destroyed: at the exit of the process its platform is gone already.
+        static const QApplication* const application = new QApplication(count, words);
+        static_cast<void>(application);
+    }
+}
+
+class QtStoryDesktop : public StoryDesktop {
+public:
+    explicit QtStoryDesktop(const UserScript& script) : player_(desktop_, script) {
+        // Pictures of every page, a folder a story, for who asks for them.
+        const char* pictures = std::getenv("KVOPT_STORY_PICTURES");
+        if (pictures != nullptr) {
+            const auto story = std::filesystem::path(script.Source()).stem();
+            const auto folder = std::filesystem::path(pictures) / story;
+            std::filesystem::create_directories(folder);
+            player_.SetPictureFolder(folder.string());
+        }
+    }
+    Desktop& Get() override { return desktop_; }
+    std::vector<std::string> Verify() override { return player_.Verify(); }
+
+private:
+    QtDesktop desktop_;
+    QtPlayer player_;
+};
+#endif
+
 }  // namespace
 
 std::vector<StoryDesktopKind> AllStoryDesktops() {
-    return {{"Scripted", [](const UserScript& script) -> std::unique_ptr<StoryDesktop> {
-                 return std::make_unique<ScriptedStoryDesktop>(script);
-             }}};
+    std::vector<StoryDesktopKind> kinds{
+        {"Scripted", [](const UserScript& script) -> std::unique_ptr<StoryDesktop> {
+             return std::make_unique<ScriptedStoryDesktop>(script);
+         }}};
+#if defined(KVOPT_HAS_QT)
+    kinds.push_back({"Qt", [](const UserScript& script) -> std::unique_ptr<StoryDesktop> {
+                         NeedApplication();
+                         return std::make_unique<QtStoryDesktop>(script);
+                     }});
+#endif
+    return kinds;
 }
 
 PlayedStory Play(const Story& story, const StoryDesktopKind& kind) {
