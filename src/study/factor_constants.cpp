@@ -63,10 +63,9 @@ int Add(Constant* constants, const Constant& constant) {
         return -1;
     }
     const int index = NumConstants(constants);
-    // The new entry may stand in the array itself.
-    const Constant copy = constant;
+    // In this order, since the new entry may be one that stood behind the end.
+    constants[index] = constant;
     constants[index + 1] = Constant();
-    constants[index] = copy;
     return index;
 }
 
