@@ -31,10 +31,15 @@ void WriteText(const std::string& fileName, const std::string& text) {
     }
 }
 
+std::string Counted(std::size_t count, const std::string& noun) {
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
 void PrintSummary(const kvopt::ReferenceStudy& study, const kvopt::ContourPlotData* plot) {
     const kvopt::StudyData& data = study.Data();
-    std::cout << "Study   " << data.name << "\n        " << data.factors.size() << " factors, "
-              << data.responses.size() << " responses, " << data.runs.rows.size() << " runs\n";
+    std::cout << "Study   " << data.name << "\n        " << Counted(data.factors.size(), "factor")
+              << ", " << Counted(data.responses.size(), "response") << ", "
+              << Counted(data.runs.rows.size(), "run") << "\n";
     std::cout << "Wizard  " << (plot != nullptr ? "finished" : "not finished") << "\n";
     if (plot == nullptr) {
         return;
