@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -13,8 +14,14 @@
 
 namespace kvopt {
 
+namespace {
+
+constexpr unsigned kLastStart = std::numeric_limits<int>::max();
+
+}  // namespace
+
 CPropertySheet::CPropertySheet(const std::wstring& caption, CWnd* parent, unsigned startPage)
-    : CWnd(parent), start_(static_cast<int>(startPage)) {
+    : CWnd(parent), start_(static_cast<int>(std::min(startPage, kLastStart))) {
     StoreText(caption);
 }
 
@@ -146,7 +153,10 @@ void CPropertySheet::BeginRun() {
     buttons_ = 0;
     buttonsSet_ = false;
     OnInitDialog();
-    BringUp(first, 1);
+    // The sheet's own opening may have brought up a page already.
+    if (active_ < 0) {
+        BringUp(first, 1);
+    }
 }
 
 void CPropertySheet::EndRun() {

@@ -186,6 +186,65 @@ TEST_F(PropertySheet, StartsWithThePageOfItsThirdArgument) {
     EXPECT_EQ(other.DoModal(), kResultOk);
 }
 
+TEST_F(PropertySheet, StartsWithItsLastPageWhereItsThirdArgumentIsBeyondIt) {
+    for (const unsigned start : {1U, 7U, 0xFFFFFFFFU}) {
+        KvPropertySheet other(L"Other", nullptr, start);
+        RecordingPage first("first", kPageA);
+        RecordingPage second("second", kPageB);
+        other.AddPage(&first);
+        other.AddPage(&second);
+        EXPECT_EQ(other.GetActivePage(), &second);
+        desktop.steps = {[&] {
+            EXPECT_EQ(other.GetActivePage(), &second);
+            EXPECT_FALSE(first.HasWindow());
+            EXPECT_TRUE(other.UserOk());
+        }};
+        EXPECT_EQ(other.DoModal(), kResultOk);
+    }
+}
+
+/// A sheet with a step of its own before its first page is up.
+class OpeningSheet : public KvPropertySheet {
+public:
+    using KvPropertySheet::KvPropertySheet;
+    std::function<void()> opening;
+    bool OnInitDialog() override {
+        Desktop::Instance().Note("sheet.OnInitDialog");
+        opening();
+        return KvPropertySheet::OnInitDialog();
+    }
+};
+
+TEST_F(PropertySheet, OpensBeforeItsFirstPage) {
+    OpeningSheet other(L"Other", nullptr, 0);
+    RecordingPage first("first", kPageA);
+    other.AddPage(&first);
+    other.opening = [] {};
+    desktop.steps = {[&] {
+        EXPECT_THAT(Log(),
+                    ElementsAre("sheet \"Other\"", "sheet.OnInitDialog", "page 90001 \"Page A\"",
+                                "first.OnInitDialog", "first.OnSetActive"));
+    }};
+    other.DoModal();
+}
+
+TEST_F(PropertySheet, LetsItsOpeningChooseTheFirstPage) {
+    OpeningSheet other(L"Other", nullptr, 0);
+    RecordingPage first("first", kPageA);
+    RecordingPage second("second", kPageB);
+    other.AddPage(&first);
+    other.AddPage(&second);
+    other.opening = [&] { EXPECT_TRUE(other.SetActivePage(&second)); };
+    desktop.steps = {[&] {
+        EXPECT_EQ(other.GetActivePage(), &second);
+        EXPECT_FALSE(first.HasWindow());
+        EXPECT_THAT(Log(),
+                    ElementsAre("sheet \"Other\"", "sheet.OnInitDialog", "page 90002 \"Page B\"",
+                                "second.OnInitDialog", "second.OnSetActive"));
+    }};
+    other.DoModal();
+}
+
 TEST_F(PropertySheet, StartsWithThePageThatWasMadeActiveBefore) {
     EXPECT_EQ(sheet.GetActivePage(), &a);
     EXPECT_TRUE(sheet.SetActivePage(&c));
@@ -265,6 +324,25 @@ TEST_F(PropertySheet, GivesTheLastWordToAStepThatChangesThePageItself) {
              EXPECT_FALSE(b.HasWindow());
          },
          [&] { sheet.UserCancel(); }});
+}
+
+TEST_F(PropertySheet, GivesTheLastWordToAStepThatEndsTheSheet) {
+    a.also["OnKillActive"] = [this] { sheet.EndDialog(77); };
+    EXPECT_EQ(Run({[&] {
+                  sheet.UserSelectPage(1);
+                  EXPECT_THAT(Log(), ElementsAre("a.OnKillActive"));
+                  EXPECT_FALSE(b.HasWindow());
+              }}),
+              77);
+    sheet.SetHasApply(true);
+    a.also.clear();
+    a.also["OnApply"] = [this] { sheet.EndDialog(78); };
+    EXPECT_EQ(Run({[&] { a.Changed(); }, [&] { Log(); },
+                   [&] {
+                       EXPECT_TRUE(sheet.UserApply());
+                       EXPECT_THAT(Log(), ElementsAre("a.OnKillActive", "a.OnApply", "a.OnOK"));
+                   }}),
+              78);
 }
 
 TEST_F(PropertySheet, PassesOverAPageThatRefusesToBeActive) {
@@ -437,6 +515,29 @@ TEST_F(PropertySheet, CommitsAnOpenCellEditorBeforeItsButtonsAct) {
                                            "b.OnApply", "b.OnOK"));
     EXPECT_EQ(content.Worksheet(), nullptr) << "the window is gone, the content is not";
     EXPECT_EQ(content.GetCellText(1, 1), "6");
+}
+
+TEST_F(PropertySheet, PressesNothingOnceTheCommitOfACellEndedIt) {
+    class Content : public BaseWorksheetInterface {
+    public:
+        explicit Content(KvPropertySheet& owner) : BaseWorksheetInterface("content"), sheet(owner) {
+            SetSize(1, 1);
+            SetColumnType(1, FieldDef::Number);
+        }
+        bool UserChangedData(int /*column*/, int /*row*/, const char* /*text*/) override {
+            sheet.EndDialog(77);
+            return true;
+        }
+        KvPropertySheet& sheet;
+    } content(sheet);
+    a.also["OnInitDialog"] = [&] { VirtualWorksheet::CreateFromStatic(a, kWorksheet, content); };
+    EXPECT_EQ(Run({[&] {
+                  content.Worksheet()->UserBeginEdit({1, 1});
+                  content.Worksheet()->UserEdit("5");
+                  sheet.UserOk();
+              }}),
+              77);
+    EXPECT_THAT(LogUntilEnd(), IsEmpty());
 }
 
 }  // namespace

@@ -106,6 +106,37 @@ TEST_F(Wizard, StaysOnThePageThatRefusesToBeLeft) {
          [&] { sheet.UserCancel(); }});
 }
 
+TEST_F(Wizard, GivesTheLastWordToAStepThatChangesThePageItself) {
+    a.also["OnWizardNext"] = [this] { sheet.SetActivePage(&c); };
+    Run({[&] {
+             sheet.UserNext();
+             EXPECT_THAT(Log(),
+                         ElementsAre("a.OnWizardNext", "a.OnKillActive", "page 90003 \"Page C\"",
+                                     "buttons back next", "c.OnInitDialog", "c.OnSetActive"));
+             EXPECT_EQ(sheet.GetActivePage(), &c);
+         },
+         [&] { sheet.UserCancel(); }});
+}
+
+TEST_F(Wizard, GivesTheLastWordToAStepThatEndsIt) {
+    a.also["OnWizardNext"] = [this] { sheet.EndDialog(77); };
+    EXPECT_EQ(Run({[&] { sheet.UserNext(); }}), 77);
+    EXPECT_THAT(Log(), ElementsAre("a.OnWizardNext", "a.OnDestroyWindow", "end 77"));
+    a.also.clear();
+    a.also["OnKillActive"] = [this] { sheet.EndDialog(77); };
+    EXPECT_EQ(Run({[&] { sheet.UserNext(); }}), 77);
+    EXPECT_THAT(Log(),
+                ElementsAre("a.OnWizardNext", "a.OnKillActive", "a.OnDestroyWindow", "end 77"));
+    for (const char* step : {"OnWizardFinish", "OnKillActive"}) {
+        a.also.clear();
+        a.also[step] = [this] { sheet.EndDialog(78); };
+        EXPECT_EQ(Run({[&] { sheet.SetWizardButtons(kWizardFinish); },
+                       [&] { desktop.RunPostedSteps(); }, [&] { sheet.UserFinish(); }}),
+                  78)
+            << step;
+    }
+}
+
 TEST_F(Wizard, FinishesWithItsOwnCodeAfterTheLastPageWasLeft) {
     EXPECT_EQ(
         Run({[&] { sheet.SetWizardButtons(kWizardFinish); }, [&] { desktop.RunPostedSteps(); },

@@ -19,7 +19,7 @@ enum WizardButton : unsigned long { kWizardBack = 1, kWizardNext = 2, kWizardFin
 /// operations that begin with "User".
 class KVOPT_EXPORT CPropertySheet : public CWnd {
 public:
-    /// `startPage` is the zero-based index of the page to start with.
+    /// `startPage`: zero-based index of the page to start with; beyond the last it is the last.
     CPropertySheet(const std::wstring& caption, CWnd* parent, unsigned startPage = 0);
     ~CPropertySheet() override;
 
@@ -61,7 +61,7 @@ public:
     bool IsRunning() const { return running_; }
     int Result() const { return result_; }
 
-    virtual bool OnInitDialog();
+    virtual bool OnInitDialog();  ///< before the first page is up, which it may choose
     /// Kill step of the active page, then OnApply of each page with a window in display order.
     virtual bool ApplyAllNow();
     /// ApplyAllNow, then the end with kResultOk.
