@@ -228,6 +228,15 @@ TEST_F(AxisHelperTest, EmptiesTheRangeOfAnUnusedOrQualitativeAxis) {
     }
 }
 
+TEST_F(AxisHelperTest, GivesTheNotUsedNameNoRangeEvenWhereADefaultBearsIt) {
+    defaults = MakeAxes({{kNone, 1, 2}, {"Temp", 20, 80}});
+    Helper helper(*this);
+    helper.FillAxis(1, nullptr);
+    helper.AddUnusedOption(1);
+    helper.SelectString(1, kNone);
+    EXPECT_EQ(helper.Row(1), kNone + "||");
+}
+
 TEST_F(AxisHelperTest, TakesAnEmptyListForNotUsed) {
     Helper helper(*this);
     helper.SetRange(1, 1, 2);

@@ -118,6 +118,26 @@ TEST_F(AxisPageInSheetTest, TurnsOnBackAndFinishInAWizard) {
     Run([&] { EXPECT_EQ(sheet.WizardButtons(), 5U); });
 }
 
+TEST_F(AxisPageInSheetTest, RunsTheDataExchangeAsItIsBroughtUpAgainAndLeft) {
+    class Exchanging : public Page {
+    public:
+        using Page::Page;
+        Texts exchanges;
+
+    protected:
+        void DoDataExchange(CDataExchange& exchange) override {
+            exchanges.emplace_back(exchange.save ? "save" : "show");
+        }
+    };
+    Exchanging exchanging(*this);
+    exchanging.Create();
+    EXPECT_TRUE(exchanging.OnSetActive());
+    EXPECT_EQ(exchanging.exchanges, (Texts{"show"}));
+    EXPECT_TRUE(exchanging.OnSetActive());
+    EXPECT_TRUE(exchanging.OnKillActive());
+    EXPECT_EQ(exchanging.exchanges, (Texts{"show", "show", "save"}));
+}
+
 TEST_F(AxisPageInSheetTest, GoesBackToItsBackPageUncheckedAndUntransferred) {
     Run([&] {
         Row(1).low.UserEdit(L"x");

@@ -203,6 +203,29 @@ TEST_F(AxisPageTest, LeavesNamesOfDefaultsThatDifferInCaseAlone) {
     EXPECT_EQ(Rows(*Shown()), (Texts{"Temp|20|80"}));
 }
 
+TEST_F(AxisPageTest, ProposesADefaultWhereALaterRowTookTheSelectionAway) {
+    class Taking : public Page {
+    public:
+        using Page::Page;
+        void SetDefault(int axis) override {
+            if (axis == 2) {
+                AxisCombo(1)->SetCurSel(-1);
+            }
+            Page::SetDefault(axis);
+        }
+    };
+    axes = MakeAxes({{"Speed", 1, 2}, {"Time", 3, 4}});
+    Taking page(*this);
+    page.Create();
+    EXPECT_EQ(Rows(page), (Texts{"Temp|20|80", "Time|3|4"}));
+}
+
+TEST_F(AxisPageTest, OffersTheBlockEntryLikeAnyFactor) {
+    study.Add(kBlockFactorName, CEType::Multilevel);
+    EXPECT_EQ(RowProbe(*Shown(), 1).Entries(),
+              (Texts{"Temp2", "Temp", "Time", "Speed", kBlockFactorName}));
+}
+
 // SelectString.
 
 TEST_F(AxisPageTest, SelectsExactlyTheNameAndShowsItsDefaults) {
@@ -333,6 +356,38 @@ TEST_F(AxisPageTest, ConnectsOnlyTheRowsOfItsAxes) {
     EXPECT_TRUE(page->steps.empty());
     EXPECT_FALSE(page->IsChanged());
     EXPECT_EQ(page->SelectString(3, "Time"), -1);
+}
+
+TEST_F(AxisPageTest, ConnectsEachRowToControlsOfItsOwn) {
+    axes = MakeAxes({{}, {}, {}, {}, {}, {}});
+    for (int axis = 1; axis <= 6; ++axis) {
+        const auto page = Shown();
+        const Texts before = Rows(*page);
+        const std::string number = std::to_string(axis);
+        RowProbe row(*page, axis);
+        row.Pick("Speed");
+        EXPECT_EQ(page->steps, (Texts{"default " + number, "change " + number}));
+        EXPECT_TRUE(row.button.IsEnabled());
+        page->steps.clear();
+        row.button.UserClick();
+        EXPECT_EQ(page->steps, (Texts{"default " + number}));
+        page->changes = 0;
+        row.low.UserEdit(L"1.5");
+        row.high.UserEdit(L"2.5");
+        EXPECT_EQ(page->changes, 2);
+        EXPECT_EQ(page->GetMin(axis), 1.5);
+        EXPECT_EQ(page->GetMax(axis), 2.5);
+        page->TransferFromPage();
+        const auto index = static_cast<std::size_t>(axis);
+        EXPECT_EQ(axes[index]->GetName(), "Speed");
+        EXPECT_EQ(axes[index]->GetMin(), 1.5F);
+        EXPECT_EQ(axes[index]->GetMax(), 2.5F);
+        Texts after = Rows(*page);
+        EXPECT_EQ(after[index - 1], "Speed|1.5|2.5");
+        after[index - 1] = before[index - 1];
+        EXPECT_EQ(after, before) << "the other rows are left alone";
+        axes = MakeAxes({{}, {}, {}, {}, {}, {}});
+    }
 }
 
 // Events.

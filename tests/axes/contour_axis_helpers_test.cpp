@@ -192,6 +192,27 @@ TEST_F(ContourAxisHelpersTest, LoseTheNotUsedNameOfOuterAxesToTheFill) {
     EXPECT_EQ(Offers(helper, 4)[3], "-Co Sp Te Ti ");
 }
 
+TEST_F(ContourAxisHelpersTest, OfferTheNotUsedNameOnOuterAxesBeforeTheFill) {
+    // Seen only where the fill passes over a position that holds no axis.
+    for (const int set : {2, 4}) {
+        for (std::size_t i = 1; i < Data().GetAxisInfo(set).size(); ++i) {
+            Data().GetAxisInfo(set)[i] = nullptr;
+        }
+    }
+    Contour4DAxisHelper process(&study, &Data(), ContourPageData::contour_4D);
+    process.Setup();
+    EXPECT_EQ(Offers(process, 4), (Texts{"", "", "-", "-"}));
+    ProbabilityContourAxisHelper probability(&study, &Data(), false);
+    probability.Setup();
+    EXPECT_EQ(Offers(probability, 4), (Texts{"", "", "-", "-"}));
+    Mixture4DAxisHelper mixture(&study, &Data(), ContourPageData::contour_4D);
+    mixture.Setup();
+    EXPECT_EQ(Offers(mixture, 5), (Texts{"", "", "", "-", "-"}));
+    ProbabilityContourAxisHelper mixtureProbability(&study, &Data(), true);
+    mixtureProbability.Setup();
+    EXPECT_EQ(Offers(mixtureProbability, 5), (Texts{"", "", "", "-", "-"}));
+}
+
 // Design space plots.
 
 TEST_F(ContourAxisHelpersTest, MakeADesignSpacePlotWithoutOuterAxes) {

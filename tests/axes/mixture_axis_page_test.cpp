@@ -186,6 +186,11 @@ INSTANTIATE_TEST_SUITE_P(
                            "0.125",
                            "0.125",
                            ""},
+                    SumRow{"a constant that only a float takes for 1",
+                           {{L"0", L"0.5"}, {L"0", L"0.5"}, {L"0", L"0.5"}},
+                           "0.9999999999",
+                           "0",
+                           ""},
                     SumRow{"a constant that is no number counts -99", kHalves, "much", "0.125",
                            kHighTooLow}));
 
