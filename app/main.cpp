@@ -4,7 +4,7 @@
 
 #include "command_line.h"
 #include "run_task.h"
-#if defined(KVOPT_HAS_QT) && __has_include("window/window_task.h")
+#if defined(KVOPT_HAS_QT)
 #include "window/window_task.h"
 #endif
 
@@ -20,7 +20,7 @@ int DoTask(const CommandLine& command) {
         case CommandLine::Task::Window:
             break;
     }
-#if defined(KVOPT_HAS_QT) && __has_include("window/window_task.h")
+#if defined(KVOPT_HAS_QT)
     return WindowTask(command);
 #else
     std::cerr << "kvopt-demo was built without windows.\n" << CommandLine::Usage();
