@@ -108,7 +108,7 @@ void SelectResponses::MoveResponse(const std::vector<std::string>& names,
 }
 
 void SelectResponses::RefreshMirror() const {
-    if (mSelectedMirror && mSelectedMirror != &mSelected) {
+    if (mSelectedMirror) {
         *mSelectedMirror = mSelected;
     }
 }

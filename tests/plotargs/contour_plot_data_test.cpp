@@ -251,7 +251,12 @@ TEST_F(ContourPlotDataTest, GivesAnExtraQualitativeAxisItsFirstSettingWithoutSto
 TEST_F(ContourPlotDataTest, LeavesAnExtraAxisThatIsEmptyOrNotUsed) {
     In("ContourAxis4D").WriteKey("1stAxis", "");
     In("ContourAxis4D").WriteKey("2ndAxis", AxisInfo::GetNotUsedName());
-    EXPECT_THAT(NamesOf(Plot().GetAxisInfo(2)), ElementsAre("-", "", "", "", "", ""));
+    In("ContourAxis2D").WriteKey("1stAxis", "A");
+    In("ContourAxis2D").WriteKey("2ndAxis", "B");
+    const ContourPlotData plot = Plot();
+    EXPECT_THAT(NamesOf(plot.GetAxisInfo(2)), ElementsAre("-", "A", "B", "", "", ""));
+    EXPECT_EQ(plot.GetAxisInfo(1)[2]->GetMax(), 30.0F) << "it counts as no unknown factor";
+    EXPECT_EQ(plot.GetAxisInfo(2)[2]->GetMax(), 30.0F);
 }
 
 TEST_F(ContourPlotDataTest, MakesAnExtraAxisUnusedThatIsAPlotAxisAlready) {

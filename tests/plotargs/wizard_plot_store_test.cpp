@@ -85,6 +85,7 @@ TEST_F(WizardPlotStoreTest, WritesTheUsedSetForANumberBelowZeroAndOnlyPositionsT
     EXPECT_EQ(Ini("ContourAxis2D", "3rdAxis"), "D");
     EXPECT_EQ(Ini("ContourAxis2D", "4thAxis"), "absent");
     EXPECT_THROW(plot.WriteSettings(Plot::ContourAxis2D, 3, 2), InvalidArgument);
+    EXPECT_THROW(plot.WriteSettings(Plot::ContourAxis2D, 3, 0), InvalidArgument);
 }
 
 TEST_F(WizardPlotStoreTest, WritesAnUnusedAxisLikeAnyOtherAndOfANamelessOneTheKeyAlone) {
