@@ -39,8 +39,18 @@ TEST(DesignSpaceOptions, AreTheDefaultsWithoutAStudyOrWithoutStoredSettings) {
     const FakeStudy study;
     EXPECT_EQ(DesignSpaceOptions(&study), DesignSpaceOptions());
     const DesignSpaceOptions defaults;
+    EXPECT_EQ(defaults.acceptableRangeSimulations, 10000);
+    EXPECT_EQ(defaults.responseProfileSimulations, 10000);
     EXPECT_EQ(defaults.whatToUpdate, 0);
+    EXPECT_TRUE(defaults.includeModelError);
     EXPECT_EQ(defaults.dpmoLimit, 10000);
+    EXPECT_TRUE(defaults.automaticUpdate);
+    EXPECT_TRUE(defaults.useTotalProbability);
+    EXPECT_TRUE(defaults.showMinMaxLines);
+    EXPECT_TRUE(defaults.includeFactorPrecision);
+    EXPECT_EQ(defaults.confidenceLevel, CConfLev::Level95);
+    EXPECT_EQ(defaults.toleranceProportion, CConfLev::Level95);
+    EXPECT_EQ(defaults.intervalType, CIntervalType::Confidence);
     EXPECT_EQ(defaults.resolution, 16);
     EXPECT_EQ(defaults.limitConfidence, 95);
     EXPECT_EQ(defaults.correlationThreshold, 0.3);
@@ -52,6 +62,33 @@ TEST(DesignSpaceOptions, ComeBackFromTheStudysSettingsWithoutTheMask) {
     options.whatToUpdate = 15;
     options.SaveAsGlobalSettings(&study);
     EXPECT_EQ(DesignSpaceOptions(&study), Changed());
+}
+
+template <class Value>
+void ExpectKey(const ConfigurationSection& section, const char* key, Value expected) {
+    Value value{};
+    EXPECT_TRUE(section.ReadKey(key, value)) << key;
+    EXPECT_EQ(value, expected) << key;
+}
+
+TEST(DesignSpaceOptions, StandUnderTheirKeysInTheirSection) {
+    const FakeStudy study;
+    Changed().SaveAsGlobalSettings(&study);
+    const auto section = study.GetInvestigationSettings("DesignSpace", true);
+    ExpectKey(*section, "AcceptableRangeSimulations", 1);
+    ExpectKey(*section, "ResponseProfileSimulations", 2);
+    ExpectKey(*section, "IncludeModelError", false);
+    ExpectKey(*section, "DPMOLimit", 3);
+    ExpectKey(*section, "AutomaticUpdate", false);
+    ExpectKey(*section, "UseTotalProbability", false);
+    ExpectKey(*section, "ShowMinMaxLines", false);
+    ExpectKey(*section, "LimitConfidence", 99);
+    ExpectKey(*section, "Resolution", 64);
+    ExpectKey(*section, "IncludeFactorPrecision", false);
+    ExpectKey(*section, "CorrelationThreshold", 0.7);
+    ExpectKey(*section, "ConfLev", 1);
+    ExpectKey(*section, "TolProp", 3);
+    ExpectKey(*section, "IntervalType", std::string("Tolerance"));
 }
 
 TEST(DesignSpaceOptions, RememberTheIntervalAlone) {

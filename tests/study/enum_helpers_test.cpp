@@ -4,6 +4,7 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "kvopt/stores.h"
@@ -175,6 +176,47 @@ TYPED_TEST(EnumHelpers, KeepTheFieldWhenTheUnknownValueWasWritten) {
     EXPECT_EQ(value, TypeParam::kFirst);
 }
 
+/// The numbers and texts that files hold.
+TEST(EnumTexts, AreSpelledAsFilesHoldThem) {
+    const std::pair<std::string, std::string> texts[] = {
+        {CConfLev::GetString(CConfLev::None), "None"},
+        {CConfLev::GetString(CConfLev::Level90), "90%"},
+        {CConfLev::GetString(CConfLev::Level95), "95%"},
+        {CConfLev::GetString(CConfLev::Level99), "99%"},
+        {CIntervalType::GetString(CIntervalType::None), "None"},
+        {CIntervalType::GetString(CIntervalType::Confidence), "Confidence"},
+        {CIntervalType::GetString(CIntervalType::Prediction), "Prediction"},
+        {CIntervalType::GetString(CIntervalType::Tolerance), "Tolerance"},
+    };
+    for (const auto& [text, expected] : texts) {
+        EXPECT_EQ(text, expected);
+    }
+}
+
+TEST(EnumNumbers, AreThoseThatFilesHold) {
+    EXPECT_EQ(CAlphaLev::Level1, 1);
+    EXPECT_EQ(CAlphaLev::Level5, 2);
+    EXPECT_EQ(CAlphaLev::Level10, 3);
+    EXPECT_EQ(CCoeff::ScaledAndCentered, 1);
+    EXPECT_EQ(CCoeff::PlsOrthogonal, 2);
+    EXPECT_EQ(CCoeff::Normalized, 3);
+    EXPECT_EQ(CCoeff::Unscaled, 4);
+    EXPECT_EQ(CCoeffList::Regular, 1);
+    EXPECT_EQ(CCoeffList::Extended, 2);
+    EXPECT_EQ(CCoeffList::ExtendedOnly, 3);
+    EXPECT_EQ(CR2Opt::R2, 1);
+    EXPECT_EQ(CR2Opt::R2Adjusted, 2);
+    EXPECT_EQ(CNumberFormat::Auto, 1);
+    EXPECT_EQ(CNumberFormat::Decimals2, 2);
+    EXPECT_EQ(CNumberFormat::Decimals5, 5);
+    EXPECT_EQ(CNumberFormat::Scientific, 6);
+    EXPECT_EQ(CResid::Raw, 1);
+    EXPECT_EQ(CResid::Standardized, 2);
+    EXPECT_EQ(CResid::DeletedStudentized, 3);
+    EXPECT_EQ(CModelList::Regular, 1);
+    EXPECT_EQ(CModelList::Extended, 2);
+}
+
 TEST(CConfLev, IsStoredAsAnIntAndNeverAsAText) {
     ConfigurationStore store;
     CConfLev::WriteSection(store.Root().get(), CConfLev::Level99);
@@ -258,6 +300,12 @@ TEST(CEVecType, NamesTheVectorsOfPlots) {
         EXPECT_TRUE(names.insert(name).second) << name;
         EXPECT_EQ(CEVecType::GetEVT(name.c_str()), vector);
     }
+    EXPECT_EQ(CEVecType::GetEVT("t"), 37);
+    EXPECT_EQ(CEVecType::GetEVT("u"), 39);
+    EXPECT_EQ(CEVecType::GetEVT("p"), 59);
+    EXPECT_EQ(CEVecType::GetEVT("w"), 66);
+    EXPECT_EQ(CEVecType::GetEVT("c"), 78);
+    EXPECT_EQ(CEVecType::GetEVT("wc"), 79);
     EXPECT_EQ(CEVecType::GetString(CEVecType::NotChosen), "");
     EXPECT_EQ(CEVecType::NotChosen, 84);
     EXPECT_EQ(CEVecType::GetEVT(""), CEVecType::NotChosen);

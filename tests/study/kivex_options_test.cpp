@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "kvopt/stores.h"
 #include "support/fake_study.h"
@@ -60,7 +61,17 @@ TEST(KivexOptions, StartFromTheirDefaults) {
     EXPECT_EQ(options.replicateTolerance, 0.1);
     EXPECT_EQ(options.r2Type, CR2Opt::R2);
     EXPECT_EQ(options.coefficientType, CCoeff::ScaledAndCentered);
+    EXPECT_EQ(options.residualType, CResid::DeletedStudentized);
     EXPECT_EQ(options.confidenceLevel, CConfLev::Level95);
+    EXPECT_EQ(options.toleranceProportion, CConfLev::Level95);
+    EXPECT_EQ(options.alphaLevel, CAlphaLev::Level5);
+    EXPECT_EQ(options.coefficientPresentation, CCoeffList::Regular);
+    EXPECT_EQ(options.qualitativePresentation, 1);
+    EXPECT_EQ(options.factorRepresentation, 1);
+    EXPECT_EQ(options.responseRepresentation, 1);
+    EXPECT_EQ(options.numberFormat, CNumberFormat::Auto);
+    EXPECT_EQ(options.failureCorrelation, 0);
+    EXPECT_EQ(options.plotLabelType, LabelTypes::ExperimentNumber);
     EXPECT_EQ(options.intervalType, CIntervalType::Confidence);
     EXPECT_EQ(options.designMatrixSource, 1);
     EXPECT_EQ(options.fitEqualModelsAsOne, 0);
@@ -73,6 +84,34 @@ TEST(KivexOptions, ComeBackFromTheirSection) {
     KivexOptions back;
     back.LoadOptions(*reread.Root());
     EXPECT_EQ(back, Changed());
+}
+
+TEST(KivexOptions, StandUnderTheirKeys) {
+    ConfigurationStore store;
+    Changed().SaveOptions(*store.Root());
+    const auto section = store.Root();
+    const std::pair<const char*, int> numbers[] = {
+        {"R2Opt", 2},
+        {"Coeff", 3},
+        {"Resid", 1},
+        {"ConfLev", 1},
+        {"TolProp", 3},
+        {"AlphaLev", 3},
+        {"CoeffList", 3},
+        {"NumberFormat", 4},
+        {"QualitativePresentation", 2},
+        {"FactorRepresentation", 2},
+        {"ResponseRepresentation", 2},
+        {"FailureCorrelation", 2},
+        {"DesignMatrixSource", 0},
+        {"FitEqualModelsAsOne", 1},
+    };
+    for (const auto& [key, expected] : numbers) {
+        EXPECT_EQ(section->ReadKeyOr(key, -1), expected) << key;
+    }
+    EXPECT_EQ(section->ReadKeyOr("ReplicateTolerance", 0.0), 0.15);
+    EXPECT_EQ(section->ReadKeyOr("IntervalType", std::string()), "Tolerance");
+    EXPECT_EQ(section->ReadKeyOr("PlotLabelType", std::string()), "RunOrder");
 }
 
 TEST(KivexOptions, KeepWhatHasNoKey) {

@@ -25,6 +25,15 @@ TEST(LabelTypes, GoBothWaysByStoredTextAndByTitle) {
     }
 }
 
+TEST(LabelTypes, AreStoredByTextsOfTheirOwn) {
+    const char* const stored[] = {"None", "ExperimentNumber", "ExperimentName", "RunOrder",
+                                  "PredictionNumber"};
+    for (int number = 0; number < kLabelTypes; ++number) {
+        const auto type = static_cast<LabelTypes::PlotLabelType>(number);
+        EXPECT_EQ(LabelTypes::GetString(type, false), stored[number]);
+    }
+}
+
 TEST(LabelTypes, AreNoneForAnyOtherText) {
     EXPECT_EQ(LabelTypes::None, 0);
     EXPECT_EQ(LabelTypes::GetLabelType(""), LabelTypes::None);

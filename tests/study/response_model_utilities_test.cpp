@@ -104,6 +104,9 @@ TEST(ResponseModelUtilities, MayPlotEverythingButTheFillerWhereNothingIsFitted) 
     EXPECT_FALSE(models.IsInAnyModel(5));
     EXPECT_EQ(models.CreateCompleteModel()->GetNItm(), 0);
     EXPECT_FALSE(PowerCalculator::CanCalculatePower(&study));
+    SuperResponsePredictor predictor(&study);
+    predictor.SetResponse(1);
+    EXPECT_EQ(predictor.GetConfidenceDataType(), 0);
 }
 
 TEST(ResponseModelUtilities, CountUsedFactorsWithoutTheFillerUpToTheLimit) {

@@ -116,6 +116,33 @@ TEST(SelectResponseBase, ReplacesTheFormerSelectionAndNothingElse) {
     EXPECT_TRUE(store.Root()->ReadKey("Other", other));
 }
 
+TEST(SelectResponseBase, KeepsTheTypeForANumberThatIsNone) {
+    for (const int number : {0, 4, -1}) {
+        ConfigurationStore store;
+        SelectResponseBase::WriteSection(store.Root().get(), {"Yield"}, false,
+                                         static_cast<SelectResponseBase::ResponseType>(number));
+        Read read;
+        read.type = SelectResponseBase::Extended;
+        EXPECT_TRUE(SelectResponseBase::ReadSection(store.Root().get(), read.responses,
+                                                    read.allSelected, read.type));
+        EXPECT_EQ(read.type, SelectResponseBase::Extended) << number;
+        EXPECT_EQ(read.responses, (Strings{"Yield"}));
+    }
+}
+
+TEST(SelectResponseBase, PassesOverEntriesWithoutANameOrWithoutTheirNumber) {
+    ConfigurationStore store;
+    const auto section = store.Root()->GetSection("SelectedResponses");
+    section->GetIndexedSection("Response", 1)->WriteKey("Name", "Yield");
+    section->GetIndexedSection("Response", 2)->WriteKey("Other", "Purity");
+    section->GetIndexedSection("Response", 4)->WriteKey("Name", "Taste");
+    const Read read = Reread(store);
+    EXPECT_TRUE(read.found);
+    EXPECT_EQ(read.responses, (Strings{"Yield"})) << "three are counted, so the fourth is not read";
+    EXPECT_FALSE(read.allSelected);
+    EXPECT_EQ(read.type, SelectResponseBase::Ordinary);
+}
+
 TEST(SelectResponseBase, ChangesNothingWithoutASection) {
     const ConfigurationStore store;
     Read read = Reread(store);

@@ -72,6 +72,20 @@ TEST(SimplexProperties, KeepEachSettingInTheStudy) {
     EXPECT_TRUE(SimplexProperties::GetIncludeWeightInLogD(&other));
 }
 
+TEST(SimplexProperties, StandUnderTheirKeysInTheirSection) {
+    const FakeStudy study;
+    SimplexProperties::SetIncludeWeightInLogD(&study, false);
+    SimplexProperties::SetUseBOBYQA(&study, true);
+    SimplexProperties::SetWeightFactorContributionsTargetDistance(&study, true);
+    SimplexProperties::SetFactorContributionsRange(&study, 12.5F);
+    const auto section = study.GetInvestigationSettings("Optimizer", true);
+    EXPECT_FALSE(section->ReadKeyOr("IncludeWeightInLogD", true));
+    EXPECT_TRUE(section->ReadKeyOr("UseBOBYQA", false));
+    EXPECT_TRUE(section->ReadKeyOr("WeightFactorContributionsTargetDistance", false));
+    EXPECT_EQ(section->ReadKeyOr("FactorContributionsRange", 0.0), 12.5);
+    EXPECT_EQ(SimplexProperties::GetFactorRangeDefault(), 10);
+}
+
 TEST(SimplexProperties, ReadTheSensitivityKeysThatThePageWrites) {
     const FakeStudy study;
     bool includeModelError = false;
