@@ -211,6 +211,23 @@ TEST_F(ContourPageStoreTest, ReadsFlagsWithoutAKeyAsFalse) {
     }
 }
 
+TEST_F(ContourPageStoreTest, TakesEveryKnownPlotTypeAndAxisType) {
+    for (int type = 0; type < 5; ++type) {
+        for (int axis = 0; axis < 2; ++axis) {
+            Save();
+            Child().WriteKey("PlotType", type);
+            Child().WriteKey("AxisType", axis);
+            ContourPageData data = Contour();
+            data.SetPlotType(type == 0 ? ContourPageData::surface_3D : ContourPageData::contour_2D);
+            data.SetAxisType(axis == 0 ? ContourPageData::mixture : ContourPageData::process);
+            EXPECT_TRUE(data.ReadSection(root.get()));
+            EXPECT_EQ(data.GetPlotType(), type);
+            EXPECT_EQ(data.GetAxisType(), axis);
+            EXPECT_FALSE(data.ISDSProbability());
+        }
+    }
+}
+
 TEST_F(ContourPageStoreTest, LeavesAnUnknownPlotTypeAndReadsOn) {
     Save();
     for (const int type : {7, 5, -1}) {

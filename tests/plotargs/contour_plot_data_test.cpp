@@ -229,6 +229,27 @@ TEST_F(ContourPlotDataTest, NeverTakesTheNameOfAnUnknownFactor) {
     EXPECT_EQ(Describe(*Plot().GetAxisInfo(1)[1]), "'' [] -99..-99 {} quantitative");
 }
 
+/// Restores its axes again when the test says so.
+class RestoredPlotData : public ContourPlotData {
+public:
+    using ContourPlotData::ContourPlotData;
+    using ContourPlotData::InitAxisInfo;
+};
+
+TEST_F(ContourPlotDataTest, TakesTheRangeAndNotTheNameForAnUnknownFactor) {
+    RestoredPlotData plot(&study, 8, "study.ini", false, false, false, false);
+    SetAxis(*plot.GetAxisInfo(1)[1], "A", 1, 2);
+    SetAxis(*plot.GetAxisInfo(1)[2], "B", 21, 22);
+    In("ContourAxis2D").WriteKey("1stAxis", "Gone");
+    plot.InitAxisInfo();
+    EXPECT_EQ(Describe(*plot.GetAxisInfo(1)[1]), "'A' [] -99..-99 {} quantitative");
+    EXPECT_EQ(Describe(*plot.GetAxisInfo(1)[2]), "'B' [] 21..22 {} quantitative") << "no key";
+    In("ContourAxis2D").WriteKey("2ndAxis", AxisInfo::GetNotUsedName());
+    plot.InitAxisInfo();
+    EXPECT_EQ(Describe(*plot.GetAxisInfo(1)[2]), "'B' [] -99..-99 {} quantitative")
+        << "the not-used name is no factor either";
+}
+
 TEST_F(ContourPlotDataTest, RestoresTheExtraPairOfBothFourDimensionalSets) {
     In("ContourAxis4D").WriteKey("1stAxis", "C");
     In("ContourAxis4D").WriteKey("2ndAxis", "Cat");

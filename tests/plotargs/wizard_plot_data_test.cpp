@@ -109,6 +109,28 @@ TEST_F(WizardPlotDataTest, NamesThreePositionsEvenForFewerAxes) {
     EXPECT_EQ(plot.GetDefaultAxisName(4), "");
 }
 
+/// Builds its vectors a second time when the test says so.
+class RebuiltPlotData : public AnyPlotData {
+public:
+    using AnyPlotData::AnyPlotData;
+    using AnyPlotData::Init;
+};
+
+TEST_F(WizardPlotDataTest, StartsAfreshWhenItIsBuiltAgainButKeepsTheNamesOfPositions) {
+    AddThreeFactors();
+    RebuiltPlotData plot(study, 2, 5);
+    plot.GetAxisInfo(1)[1]->SetName("A");
+    plot.GetAxisDefaults()[1]->SetName("changed");
+    plot.GetPlotConstants()[0].FloatValue(7);
+    plot.Init(2, 5, 4);
+    EXPECT_EQ(Describe(*plot.GetAxisInfo(1)[1]), "'' [] -99..-99 {} quantitative");
+    EXPECT_THAT(NamesOf(plot.GetAxisDefaults()), ElementsAre("-", "A", "B", "C"));
+    EXPECT_EQ(Value(plot, "A"), 5.0);
+    EXPECT_EQ(plot.GetDefaultAxisName(5), "5thAxis");
+    EXPECT_EQ(plot.GetDefaultAxisName(6), "1stAxis") << "appended to and not cleared";
+    EXPECT_EQ(plot.GetDefaultAxisName(10), "5thAxis");
+}
+
 TEST_F(WizardPlotDataTest, MakesADefaultAxisForEachFactor) {
     study.Number("A", 0.1, 10).units = "bar";
     FactorClass& catalyst = study.Names("Cat", {"Pd", "Pt", "Ni"});

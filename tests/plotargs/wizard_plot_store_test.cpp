@@ -84,8 +84,11 @@ TEST_F(WizardPlotStoreTest, WritesTheUsedSetForANumberBelowZeroAndOnlyPositionsT
     plot.WriteSettings(Plot::ContourAxis2D, -1, 8);
     EXPECT_EQ(Ini("ContourAxis2D", "3rdAxis"), "D");
     EXPECT_EQ(Ini("ContourAxis2D", "4thAxis"), "absent");
-    EXPECT_THROW(plot.WriteSettings(Plot::ContourAxis2D, 3, 2), InvalidArgument);
-    EXPECT_THROW(plot.WriteSettings(Plot::ContourAxis2D, 3, 0), InvalidArgument);
+    files.Log().clear();
+    for (const int numAxes : {0, 2}) {
+        EXPECT_THROW(plot.WriteSettings(Plot::ContourAxis2D, 3, numAxes), InvalidArgument);
+    }
+    EXPECT_THAT(files.Log(), ElementsAre());
 }
 
 TEST_F(WizardPlotStoreTest, WritesAnUnusedAxisLikeAnyOtherAndOfANamelessOneTheKeyAlone) {
@@ -190,7 +193,9 @@ TEST_F(WizardPlotStoreTest, WritesAxesBeforeConstants) {
     EXPECT_TRUE(child->HasSection("Axis_5", true));
     EXPECT_FALSE(child->HasSection("Axis_6", true));
     EXPECT_THROW(plot.WriteSection(nullptr, Plot::ContourAxis2D, 1, 2), InvalidArgument);
-    EXPECT_THROW(plot.WriteSection(&section, Plot::ContourAxis2D, 2, 2), InvalidArgument);
+    for (const int numAxes : {0, 2}) {
+        EXPECT_THROW(plot.WriteSection(&section, Plot::ContourAxis2D, 2, numAxes), InvalidArgument);
+    }
     EXPECT_FALSE(root->HasSection("ContourAxis2D", true));
 }
 
@@ -284,6 +289,8 @@ TEST_F(WizardPlotStoreTest, ReadsNothingWithoutTheSectionOfTheType) {
     EXPECT_FALSE(plot.ReadSection(nullptr, Plot::ContourAxis2D, 1, 2));
     EXPECT_EQ(plot.GetAxisInfo(1)[5]->GetName(), "A");
     EXPECT_THROW(plot.ReadSection(root.get(), Plot::ContourAxis2D, 3, 2), InvalidArgument);
+    EXPECT_THROW(plot.ReadSection(root.get(), Plot::ContourAxisMixture, 3, 2), InvalidArgument)
+        << "a set that is not there is told before a section that is not";
 }
 
 TEST_F(WizardPlotStoreTest, ReadsAnEmptySectionOfTheType) {
