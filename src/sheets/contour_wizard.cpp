@@ -45,7 +45,7 @@ Contour2DAxisPage::Arguments AxisArguments(ContourPlotData& data, ContourPlotDat
 bool ShowContourWizard(CWnd* parent, ContourPlotData& data, const Investigation* investigation,
                        bool writeSettings, bool isDesirability) {
     const ContourPageData& pageData = *data.GetContourTypeData();
-    if (writeSettings && !data.HasIniFile()) {
+    if (writeSettings && !data.HasIniSection()) {
         throw InvalidArgument("ShowContourWizard: the plot has no ini file to write settings to");
     }
     const std::wstring title = WizardTitle(pageData, isDesirability);

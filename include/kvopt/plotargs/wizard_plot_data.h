@@ -77,8 +77,6 @@ public:
     const Investigation* GetInvestigation() const { return investigation_; }
     /// The name given to the constructor.
     std::string GetIniFile() const { return iniFile_; }
-    /// Whether settings can be written: false for a copy, and when the file could not be had.
-    bool HasIniFile() const { return iniSection_ != nullptr; }
 
     /// How many factors that may be plotted and are not held constant lie on none of the first
     /// `numAxes` axes.
@@ -89,7 +87,8 @@ public:
     /// many there were.
     int RemoveIllegalAxes(const char* response, int set, int numAxes);
 
-    /// Whether there is an ini section, without which writing settings throws InvalidArgument.
+    /// Whether settings can be written: false for a copy, and when the ini file could not be had.
+    /// Writing them then throws InvalidArgument.
     bool HasIniSection() const { return iniSection_ != nullptr; }
     /// Remembers the axes and the constants in the study's ini file; not flushed.
     void WriteSettings(PlotAxisType type, int set, int numAxes) const;
