@@ -3,6 +3,8 @@
 #include <Eigen/Dense>
 #include <cstddef>
 
+#include "kvopt/host/study_data.h"
+
 namespace kvopt {
 namespace {
 
@@ -26,8 +28,8 @@ public:
         return vector;
     }
 
-    bool Explain(const Eigen::VectorXd& vector) const {
-        return Remainder(vector).norm() <= kAliasTolerance * vector.norm();
+    bool Explain(const Eigen::VectorXd& vector, double tolerance) const {
+        return Remainder(vector).norm() <= tolerance * vector.norm();
     }
 
     /// False, and nothing kept, when the vector is explained already.
@@ -89,7 +91,8 @@ LeastSquaresResult SolveLeastSquares(const std::vector<std::vector<double>>& row
     }
     result.fitted.assign(fitted.data(), fitted.data() + runs);
     result.residualSum = (observed - fitted).squaredNorm();
-    const bool spansConstant = directions.Explain(Eigen::VectorXd::Ones(runs));
+    // The parts of a mixture add up to a constant, but for the rounding of printed amounts.
+    const bool spansConstant = directions.Explain(Eigen::VectorXd::Ones(runs), kMixtureTolerance);
     const double centre = spansConstant ? observed.mean() : 0.0;
     result.totalSum = (observed.array() - centre).matrix().squaredNorm();
     return result;

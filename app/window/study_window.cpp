@@ -246,10 +246,9 @@ QString StudyWindow::Save(const kvopt::ContourPlotData& plot) {
 }
 
 void StudyWindow::ShowPlaces() {
-    const QString places = study_ == nullptr
-                               ? QString()
-                               : "Settings: " + QDir::toNativeSeparators(places_.IniFile()) +
-                                     "    Plots: " + QDir::toNativeSeparators(places_.PlotFolder());
+    const QString places = study_ == nullptr ? QString()
+                                             : "Settings: " + ShownPath(places_.IniFile()) +
+                                                   "    Plots: " + ShownPath(places_.PlotFolder());
     statusBar()->showMessage(places);
     statusBar()->setToolTip(places);
 }

@@ -200,6 +200,17 @@ TEST_F(StudyWindowTest, SaysWhereItsFilesStand) {
     EXPECT_THAT(places, HasSubstr(std::string("data/") + kReaction + "-plots"));
 }
 
+TEST_F(StudyWindowTest, ShortensTheHomeFolderOfItsFiles) {
+    const QByteArray formerHome = qgetenv("HOME");
+    qputenv("HOME", folder_.path().toUtf8());
+    StudyWindow window(Data());
+    window.OpenFolder(Studies());
+    qputenv("HOME", formerHome);
+    EXPECT_EQ(Find<QStatusBar>(window, "places").currentMessage().toStdString(),
+              std::string("Settings: ~/studies/") + kReaction + ".ini    Plots: ~/data/" +
+                  kReaction + "-plots");
+}
+
 TEST_F(StudyWindowTest, NamesEveryControlThatTheKeyboardReaches) {
     StudyWindow window(Data());
     window.OpenFolder(Studies());

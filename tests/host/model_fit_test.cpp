@@ -291,6 +291,14 @@ TEST(ModelFit, CountsTheVariationOfAMixtureAboutItsMean) {
     EXPECT_NEAR(FitOf(builder.Build()->Data()).RSquared(), 1.0 - (2.0 / 3.0) / (26.0 / 3.0), 1e-12);
 }
 
+TEST(ModelFit, CountsTheVariationOfRoundedPartsAboutTheMeanToo) {
+    StudyBuilder builder("rounded blend");
+    builder.MixturePart("a", 0, 1).MixturePart("b", 0, 1).Response("y").Model({"A", "B"}, false);
+    builder.Run({0, 1, 100}).Run({1, 0, 104}).Run({0.5, 0.5004, 103});
+    // As with the exact parts; about zero it would be all but 1.
+    EXPECT_NEAR(FitOf(builder.Build()->Data()).RSquared(), 1.0 - (2.0 / 3.0) / (26.0 / 3.0), 0.01);
+}
+
 TEST(ModelFit, CountsTheVariationAboutZeroWithoutAnyConstant) {
     StudyBuilder builder("through zero");
     builder.Process("a", -1, 1).Response("y").Model({"A"}, false);
