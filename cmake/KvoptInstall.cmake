@@ -24,6 +24,9 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/kvoptConfigVersion.cmake
 install(FILES "${PROJECT_BINARY_DIR}/kvoptConfig.cmake" "${PROJECT_BINARY_DIR}/kvoptConfigVersion.cmake"
         DESTINATION "${KVOPT_PACKAGE_DIR}")
 
+# From the folder of the pkg-config files back to the prefix, so that an installation can be moved.
+file(RELATIVE_PATH PC_PREFIX "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
+
 # kvopt_pkg_config(LIBRARY DESCRIPTION REQUIRES)
 function(kvopt_pkg_config library description requires)
     set(PC_LIBRARY "${library}")

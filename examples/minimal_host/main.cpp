@@ -1,6 +1,7 @@
 // A host in thirty lines: a study of two factors and one response, and the axes of its plot.
 #include <kvopt/axes.h>
 #include <kvopt/plotargs.h>
+#include <kvopt/study.h>
 
 #include <iostream>
 
