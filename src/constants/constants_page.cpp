@@ -9,7 +9,6 @@ namespace kvopt {
 
 namespace {
 constexpr int kGrid = 6139;
-constexpr int kAcceleratorTable = 6359;
 
 int RowsFor(const Investigation& investigation) {
     if (investigation.GetResponseManager()->GetCount(ResponseEx::External) < 1) {
@@ -28,7 +27,7 @@ ConstantsPage::ConstantsPage(const Investigation* investigation, const Arguments
       grid_(std::make_unique<VWSConstantInterface>(this, investigation, RowsFor(*investigation),
                                                    arguments.chooser, arguments.constants,
                                                    *arguments.axes, readOnly)),
-      accelerators_(AcceleratorTable::Find(kAcceleratorTable)) {}
+      accelerators_(AcceleratorTable::Find(kWorksheetAccelerators)) {}
 
 ConstantsPage::~ConstantsPage() = default;
 

@@ -1,0 +1,145 @@
+#include "census/page_controls.h"
+
+namespace kvopt::test {
+
+namespace {
+
+using Controls = std::vector<NamedControl>;
+
+Controls operator+(Controls left, const Controls& right) {
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+/// The controls of the first rows of an axis page.
+Controls AxisRows(int count) {
+    const std::vector<Controls> rows{{{6036, ControlKind::ComboList},
+                                      {6055, ControlKind::Edit},
+                                      {6054, ControlKind::Edit},
+                                      {6006, ControlKind::Push}},
+                                     {{6037, ControlKind::ComboList},
+                                      {6058, ControlKind::Edit},
+                                      {6057, ControlKind::Edit},
+                                      {6007, ControlKind::Push}},
+                                     {{6038, ControlKind::ComboList},
+                                      {6060, ControlKind::Edit},
+                                      {6059, ControlKind::Edit},
+                                      {6008, ControlKind::Push}},
+                                     {{6039, ControlKind::ComboList},
+                                      {6062, ControlKind::Edit},
+                                      {6061, ControlKind::Edit},
+                                      {6009, ControlKind::Push}},
+                                     {{6040, ControlKind::ComboList},
+                                      {6064, ControlKind::Edit},
+                                      {6063, ControlKind::Edit},
+                                      {6010, ControlKind::Push}},
+                                     {{6041, ControlKind::ComboList},
+                                      {6066, ControlKind::Edit},
+                                      {6065, ControlKind::Edit},
+                                      {6011, ControlKind::Push}}};
+    Controls controls;
+    for (int row = 0; row < count; ++row) {
+        controls = controls + rows.at(static_cast<std::size_t>(row));
+    }
+    return controls;
+}
+
+const Controls kGrid{{6139, ControlKind::Worksheet}};
+
+const Controls kResponseLists{{6303, ControlKind::Label},     {6215, ControlKind::Label},
+                              {6076, ControlKind::ListMulti}, {6005, ControlKind::Push},
+                              {6017, ControlKind::Push},      {6313, ControlKind::Push},
+                              {6216, ControlKind::Label},     {6078, ControlKind::ListMulti}};
+
+const Controls kPlotType{{6096, ControlKind::Radio}, {6097, ControlKind::Radio},
+                         {6126, ControlKind::Radio}, {6127, ControlKind::Radio},
+                         {6115, ControlKind::Radio}, {6105, ControlKind::Radio},
+                         {6024, ControlKind::Check}, {6014, ControlKind::Push}};
+
+const Controls kContourOptions{{6046, ControlKind::ComboEdit},
+                               {6022, ControlKind::Check},
+                               {6027, ControlKind::Check},
+                               {6029, ControlKind::Check},
+                               {6223, ControlKind::Check}};
+
+}  // namespace
+
+std::vector<int> AllTemplateNumbers() {
+    std::vector<int> numbers;
+    for (const DialogTemplate* dialog : TemplateCatalog::Instance().All()) {
+        numbers.push_back(dialog->number);
+    }
+    return numbers;
+}
+
+const std::vector<PageOfTemplate>& PagesOfTemplates() {
+    static const std::vector<PageOfTemplate> pages{
+        {"AxisPage", 6152, AxisRows(6)},
+        {"Contour2DAxisPage", 6160, AxisRows(2) + kGrid},
+        {"MixtureAxisPage", 6168, AxisRows(3) + kGrid},
+        {"ConstantsPage", 6157, kGrid},
+        {"ConstantsPage", 6170, kGrid},
+        {"MultipleResponsePage", 6172, kResponseLists},
+        {"ContourPage", 6158, kResponseLists + kPlotType},
+        {"ContourPlotOptionsPage", 6159, kContourOptions},
+        // A surface has neither contour colors nor labels nor levels.
+        {"ContourPlotOptionsPage",
+         6213,
+         {{6046, ControlKind::ComboEdit}, {6029, ControlKind::Check}},
+         {6022, 6027, 6223}}};
+    return pages;
+}
+
+const std::vector<PageSources>& SourcesOfPages() {
+    static const std::vector<PageSources> sources{
+        {"AxisPage", {"axes/axis_page.cpp"}},
+        {"Contour2DAxisPage", {"axes/axis_page.cpp", "axes/contour_2d_axis_page.cpp"}},
+        {"MixtureAxisPage",
+         {"axes/axis_page.cpp", "axes/contour_2d_axis_page.cpp", "axes/mixture_axis_page.cpp"}},
+        {"ConstantsPage", {"constants/constants_page.cpp"}},
+        {"MultipleResponsePage", {"selection/multiple_response_page.cpp"}},
+        {"ContourPage", {"selection/multiple_response_page.cpp", "sheets/contour_page.cpp"}},
+        {"ContourPlotOptionsPage", {"sheets/contour_plot_options_page.cpp"}}};
+    return sources;
+}
+
+const std::vector<OtherNumber>& OtherNumbers() {
+    static const std::vector<OtherNumber> numbers{
+        {6161, "the page of four process axes, which the wizard says is not there"},
+        {6169, "the page of four mixture axes, likewise"}};
+    return numbers;
+}
+
+const char* KindName(ControlKind kind) {
+    switch (kind) {
+        case ControlKind::Label:
+            return "label";
+        case ControlKind::Edit:
+            return "edit";
+        case ControlKind::ComboList:
+            return "drop-down list";
+        case ControlKind::ComboEdit:
+            return "editable drop-down list";
+        case ControlKind::ListSingle:
+            return "list";
+        case ControlKind::ListMulti:
+            return "list of several marks";
+        case ControlKind::Push:
+            return "push button";
+        case ControlKind::Check:
+            return "check box";
+        case ControlKind::Radio:
+            return "radio button";
+        case ControlKind::Spin:
+            return "spin control";
+        case ControlKind::Worksheet:
+            return "worksheet";
+        case ControlKind::PropertyGrid:
+            return "property grid";
+        case ControlKind::Markup:
+            return "markup";
+    }
+    return "unknown";
+}
+
+}  // namespace kvopt::test
