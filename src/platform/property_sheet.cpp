@@ -250,8 +250,8 @@ bool CPropertySheet::Press(bool offered, const std::function<void()>& step) {
 
 void CPropertySheet::FollowWizardStep(int asked, int answer, int neighbour) {
     const int index = answer == 0 ? neighbour : IndexOfTemplate(answer);
-    // A step that changes the page itself has the last word.
-    if (answer != -1 && !ended_ && active_ == asked && GetPage(index) != nullptr) {
+    // A step that changes the page itself has the last word; -1 names no page.
+    if (!ended_ && active_ == asked && GetPage(index) != nullptr) {
         ChangePage(index);
     }
 }

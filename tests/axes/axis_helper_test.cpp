@@ -266,6 +266,22 @@ TEST_F(AxisHelperTest, LetsTheDefaultsDecideEvenWhereAnAxisHasItsFactor) {
     EXPECT_EQ(Axes(), (Texts{"Time 10 50", "Temp 20 80"}));
 }
 
+TEST_F(AxisHelperTest, ShowsTheStoredRangesUntilTheDefaultsDecide) {
+    class Watching : public Helper {
+    public:
+        using Helper::Helper;
+        void SetDefault(int axis) override {
+            rows.push_back(Row(axis));
+            Helper::SetDefault(axis);
+        }
+        Texts rows;
+    };
+    axes = MakeAxes({{"Temp", 1, 2}, {"Speed", 3, 4}});
+    Watching helper(*this);
+    helper.Setup();
+    EXPECT_EQ(helper.rows, (Texts{"Temp||", "Speed||", "Time|1|2", "Temp|3|4"}));
+}
+
 TEST_F(AxisHelperTest, NeverTakesOneDefaultTwice) {
     axes = MakeAxes({{}, {}, {}, {}});
     defaults = MakeAxes({{"Time", 10, 50}, {"Time", 1, 2}, {"Temp", 20, 80}, {"Gone", 1, 2}});

@@ -113,6 +113,30 @@ TEST_F(AxisPageInSheetTest, SetsNoWizardButtonsInASheet) {
     EXPECT_EQ(sheet.WizardButtons() & kWizardFinish, 0U);
 }
 
+TEST_F(AxisPageInSheetTest, AsksAWizardAloneForItsButtonsAndOnceAtEachActivation) {
+    class Asked : public KvPropertySheet {
+    public:
+        using KvPropertySheet::KvPropertySheet;
+        std::vector<unsigned long> calls;
+        void SetWizardButtons(unsigned long buttons) override {
+            calls.push_back(buttons);
+            KvPropertySheet::SetWizardButtons(buttons);
+        }
+    };
+    for (const bool wizard : {false, true}) {
+        Asked asked(L"Contour Plot", nullptr, 0);
+        AxisPage alone(&study, Arguments(), 6152, nullptr, 1);
+        asked.AddPage(&alone);
+        if (wizard) {
+            asked.SetWizardMode();
+        }
+        desktop.user = [&](CPropertySheet&) { alone.OnSetActive(); };
+        asked.DoModal();
+        EXPECT_EQ(asked.calls,
+                  wizard ? (std::vector<unsigned long>{5, 5}) : (std::vector<unsigned long>{}));
+    }
+}
+
 TEST_F(AxisPageInSheetTest, TurnsOnBackAndFinishInAWizard) {
     sheet.SetWizardMode();
     Run([&] { EXPECT_EQ(sheet.WizardButtons(), 5U); });

@@ -197,6 +197,11 @@ TEST_F(AxisPageTest, LosesTheRangeOfTheFirstAxisToALaterAxisThatIsNotFound) {
     EXPECT_EQ(Rows(*Shown()), (Texts{"Time|10|50", "Temp|20|80"}));
 }
 
+TEST_F(AxisPageTest, KeepsTheRangeOfTheFirstAxisBesideALaterAxisThatHoldsNothing) {
+    axes = MakeAxes({{"Time", 1, 2}, {}});
+    EXPECT_EQ(Rows(*Shown()), (Texts{"Time|1|2", "Temp|20|80"}));
+}
+
 TEST_F(AxisPageTest, LeavesNamesOfDefaultsThatDifferInCaseAlone) {
     defaults = MakeAxes({{"TIME", 1, 1}, {"Temp", 20, 80}});
     axes = MakeAxes({{}});
@@ -265,6 +270,14 @@ TEST_F(AxisPageTest, FindsEachOfManyNamesThatBeginEachOther) {
     EXPECT_EQ(page.SelectString(1, "F3"), -1);
     EXPECT_EQ(page.SelectString(1, "fF"), -1);
     EXPECT_EQ(page.NameAxis(1), "FF") << "where the search came to";
+}
+
+TEST_F(AxisPageTest, MeetsTheTopEntryOfTheListLast) {
+    Page page(*this);
+    page.offers = {"Temp", "Temp2", "Temp"};
+    page.Create();
+    EXPECT_EQ(page.SelectString(1, "Temp"), 2) << "the search begins behind the first entry";
+    EXPECT_EQ(page.SelectString(1, "Temp2"), 1);
 }
 
 TEST_F(AxisPageTest, RestoresTheDefaultsOfAxisOneForANameThatIsNotInTheList) {
@@ -369,8 +382,10 @@ TEST_F(AxisPageTest, ConnectsEachRowToControlsOfItsOwn) {
         EXPECT_EQ(page->steps, (Texts{"default " + number, "change " + number}));
         EXPECT_TRUE(row.button.IsEnabled());
         page->steps.clear();
+        page->changes = 0;
         row.button.UserClick();
         EXPECT_EQ(page->steps, (Texts{"default " + number}));
+        EXPECT_EQ(page->changes, 2) << "by the two edits that it writes, and no more";
         page->changes = 0;
         row.low.UserEdit(L"1.5");
         row.high.UserEdit(L"2.5");

@@ -239,6 +239,22 @@ TEST_F(ContourAxisHelpersTest, MakeAMixtureDesignSpacePlotWithoutOuterAxes) {
               (Texts{"A B C D ", "A B C D ", "A B C D ", "A B C D ", "-A B C D "}));
 }
 
+TEST_F(ContourAxisHelpersTest, TakeTheNamesOffBothOuterAxesOfADesignSpacePlot) {
+    study.Number("Mass", 0, 9);
+    study.Part("E");
+    for (const auto& axis : MakeAxes({{"Mass", 7, 8}, {"E", 0.25F, 0.75F}})) {
+        if (axis) {
+            Data().GetAxisDefaults().push_back(axis);
+        }
+    }
+    ProbabilityContourAxisHelper(&study, &Data(), false).Setup();
+    EXPECT_EQ(Set(2), (Texts{"Temp", "Time", kNone, kNone, "Gone"}));
+    EXPECT_EQ(Data().GetAxisInfo(2)[4]->GetMax(), 8.0F) << "Mass lay on it";
+    ProbabilityContourAxisHelper(&study, &Data(), true).Setup();
+    EXPECT_EQ(Set(4), (Texts{"A", "B", "C", kNone, kNone}));
+    EXPECT_EQ(Data().GetAxisInfo(4)[5]->GetMax(), 0.75F) << "E lay on it";
+}
+
 TEST_F(ContourAxisHelpersTest, AskTheModelsUnlessThereIsAResponseFromOutside) {
     study.unavailable = {"Temp"};
     ContourAxisHelper helper(&study, &Data(), ContourPageData::contour_2D,

@@ -103,6 +103,12 @@ TEST_F(FillBoxTest, SelectsTheFirstEntryThatBeginsWithTheText) {
     EXPECT_EQ(List().GetCurSel(), 0);
 }
 
+TEST_F(FillBoxTest, BeginsItsSearchWithTheTopEntry) {
+    study.Number("Zeta2", 0, 1);
+    Box().FillFactorCLB(&List(), L"zeta");
+    EXPECT_EQ(List().GetCurSel(), 0);
+}
+
 TEST_F(FillBoxTest, SelectsTheFirstEntryWhenTheTextIsNotThere) {
     Box().FillFactorCLB(&List(), L"beta");
     EXPECT_EQ(List().GetCurSel(), 0);

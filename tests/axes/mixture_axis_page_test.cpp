@@ -233,6 +233,14 @@ TEST_F(MixtureAxisPageTest, CountsDesignFactorsThatArePartsAlone) {
     EXPECT_TRUE(study.mixtureQuestions.empty());
 }
 
+TEST_F(MixtureAxisPageTest, CountsNoBlockEntry) {
+    study.Add(kBlockFactorName, CEType::Formulation, CEUse::Uncontrolled);
+    const auto page = Shown();
+    study.mixtureQuestions.clear();
+    EXPECT_TRUE(page->HasLegalMixtureSettings());
+    EXPECT_TRUE(study.mixtureQuestions.empty());
+}
+
 TEST_F(MixtureAxisPageTest, AnswersFromTheAxesWithoutAWindow) {
     const Page page(*this);
     EXPECT_TRUE(page.HasLegalMixtureSettings()) << "the empty grid counts two references of 0.25";
@@ -367,7 +375,8 @@ TEST_F(MixtureAxisPageTest, StopsAtAGridThatTheUserDoesNotKeep) {
     page->Range(1, L"0.75", L"0.8");
     page->Constant("T", "200");
     EXPECT_FALSE(page->OnApply());
-    EXPECT_EQ(desktop.boxes.size(), 1U);
+    ASSERT_EQ(desktop.boxes.size(), 1U);
+    EXPECT_EQ(desktop.boxes[0].style, 68U) << "the grid is asked about before the sums";
     EXPECT_EQ(Stored("T"), 50.0);
 }
 
@@ -422,6 +431,30 @@ TEST_F(MixtureAxisPageTest, DoesNotKeepTheGridsParent) {
     helped->Changed();
     EXPECT_TRUE(helped->OnApply());
     EXPECT_EQ(helped->Grid().GetParent(), helped.get());
+}
+
+TEST_F(MixtureAxisPageTest, KnowsTheNamesOfItsAxesOnceItIsBroughtUp) {
+    const auto page = Shown();
+    page->Constant("T", "60");
+    for (int axis = 1; axis <= 3; ++axis) {
+        page->OnChangeAxis(axis);
+    }
+    EXPECT_EQ(Stored("T"), 50.0) << "nothing changed, so nothing is saved";
+}
+
+TEST_F(MixtureAxisPageTest, RunsTheDataExchangeWhenItIsLeft) {
+    class Exchanging : public Page {
+    public:
+        using Page::Page;
+        int saves = 0;
+
+    protected:
+        void DoDataExchange(CDataExchange& exchange) override { saves += exchange.save ? 1 : 0; }
+    };
+    Exchanging page(*this);
+    page.Create();
+    EXPECT_TRUE(page.OnKillActive());
+    EXPECT_EQ(page.saves, 1);
 }
 
 TEST_F(MixtureAxisPageTest, KeepsTypedConstantsWhenAPartLeavesItsAxis) {

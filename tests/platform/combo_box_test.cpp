@@ -108,6 +108,15 @@ TEST_F(ComboBox, KeepsItsSelectionOnTheEntryWhenTheListChanges) {
     EXPECT_EQ(editable.GetText(), L"");
 }
 
+TEST_F(ComboBox, HasNoSelectionWhenItIsFilledAnew) {
+    list.SetCurSel(1);
+    list.ResetContent();
+    list.AddString(L"8");
+    list.AddString(L"80");
+    EXPECT_EQ(list.GetCurSel(), -1);
+    EXPECT_EQ(list.GetText(), L"");
+}
+
 TEST_F(ComboBox, TellsViewsOfDifferencesOnly) {
     CountingView view;
     list.AddListener(&view);

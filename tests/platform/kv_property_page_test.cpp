@@ -140,6 +140,43 @@ TEST_F(ThePage, SharesAHelperWhichUpdatesOnceForEachDirtyPage) {
     EXPECT_EQ(helper.UpdateCount(), 0);
 }
 
+TEST_F(ThePage, RemovesNoUpdateOfAnotherPageFromAHelperThatTheyShare) {
+    RecordingPage second("second", kPageB, &helper);
+    page.Changed();
+    second.Changed();
+    page.Unchanged();
+    page.Unchanged();
+    EXPECT_EQ(helper.UpdateCount(), 1) << "one remove for one add";
+    EXPECT_TRUE(page.OnApply());
+    page.OnCancel();
+    EXPECT_TRUE(page.OnWizardFinish());
+    EXPECT_EQ(helper.UpdateCount(), 1) << "a clean page has nothing to remove";
+    second.Unchanged();
+    EXPECT_EQ(helper.UpdateCount(), 0);
+}
+
+TEST_F(ThePage, AsksWhetherItIsDirtyThroughItsVirtualStep) {
+    class Dirty : public RecordingPage {
+    public:
+        using RecordingPage::RecordingPage;
+        bool IsChanged() const override { return true; }
+    };
+    Dirty dirty("dirty", kPageB, &helper);
+    EXPECT_TRUE(dirty.OnApply());
+    EXPECT_EQ(helper.updates, 1);
+    EXPECT_THAT(Log(), ElementsAre("dirty.OnApply")) << "no OnOK";
+}
+
+TEST_F(ThePage, ReachesOnOkFromThePlainPagesApply) {
+    class Plain : public CPropertyPage {
+    public:
+        Plain() : CPropertyPage(kPageA) {}
+        void OnOK() override { Desktop::Instance().Note("plain.OnOK"); }
+    } plain;
+    EXPECT_TRUE(plain.OnApply());
+    EXPECT_THAT(Log(), ElementsAre("plain.OnOK"));
+}
+
 TEST_F(ThePage, IsDirtyWhenItFillsAnEditAsItOpens) {
     page.also["OnInitDialog"] = [&] { page.GetDlgItem(kEdit)->SetText(L""); };
     page.Create();
@@ -286,6 +323,7 @@ TEST_F(ThePage, KeepsWhatItsControlsWereGivenBehindOnInitDialogWhenItIsFirstActi
     exchange.OnSetActive();
     EXPECT_EQ(exchange.edit->GetText(), L"member");
     EXPECT_FALSE(exchange.Item<CButton>(kSecondRadio)->GetCheck());
+    exchange.radio = 1;
     exchange.OnKillActive();
     EXPECT_EQ(exchange.radio, -1) << "no mark";
 }

@@ -82,6 +82,13 @@ TEST_F(ListBox, RunsNoDoubleClickOnAnEntryThatTheFirstClickTookAway) {
     EXPECT_THAT(dialog.Take(), ElementsAre("selection 21"));
 }
 
+TEST_F(ListBox, RunsNoDoubleClickOnAListThatTheFirstClickClosed) {
+    dialog.also["selection 21"] = [this] { multi.EnableWindow(false); };
+    EXPECT_TRUE(multi.UserDoubleClick(2));
+    EXPECT_THAT(dialog.Take(), ElementsAre("selection 21"));
+    EXPECT_THAT(multi.GetSelItems(), ElementsAre(2));
+}
+
 TEST_F(ListBox, RefusesTheUserWhenDisabled) {
     multi.EnableWindow(false);
     EXPECT_FALSE(multi.UserMark({0}));

@@ -329,8 +329,12 @@ TEST_F(PropertySheet, GivesTheLastWordToAStepThatChangesThePageItself) {
 TEST_F(PropertySheet, GivesTheLastWordToAStepThatEndsTheSheet) {
     a.also["OnKillActive"] = [this] { sheet.EndDialog(77); };
     EXPECT_EQ(Run({[&] {
+                  CountingView view;
+                  sheet.AddListener(&view);
                   sheet.UserSelectPage(1);
                   EXPECT_THAT(Log(), ElementsAre("a.OnKillActive"));
+                  EXPECT_THAT(view.Take(), ElementsAre(WindowChange::Ended));
+                  sheet.RemoveListener(&view);
                   EXPECT_FALSE(b.HasWindow());
               }}),
               77);
