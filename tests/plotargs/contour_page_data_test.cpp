@@ -320,6 +320,17 @@ TEST_F(ContourPageDataTest, ReadsHardDefaultsFromAnIniFileWithoutKeys) {
     EXPECT_TRUE(options.backTransformedFactors);
 }
 
+TEST_F(ContourPageDataTest, WritesAnEmptyTextForTypesThatItDoesNotKnow) {
+    ContourPageData data = Contour();
+    data.SetPlotType(static_cast<ContourPageData::Type>(5));
+    data.SetAxisType(static_cast<ContourPageData::AxisType>(2));
+    IniFileSection& ini = files.File("study.ini");
+    data.SaveSettings(&ini);
+    const ContourPlotIniSection view(ini, false);
+    EXPECT_EQ(view.GetPlotType(), "");
+    EXPECT_EQ(view.GetAxisType(), "");
+}
+
 TEST_F(ContourPageDataTest, KeepsTypesThatTheIniFileSpellsOtherwise) {
     IniFileSection& ini = files.File("study.ini");
     ContourPlotIniSection view(ini, false);

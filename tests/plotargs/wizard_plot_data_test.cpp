@@ -220,6 +220,20 @@ INSTANTIATE_TEST_SUITE_P(
         OrderCase{"TooManyArePassedOver", {1, 4, 2, 3, 9}, {}, {"-", "B", "D", "C", "A"}}),
     [](const auto& testCase) { return testCase.param.label; });
 
+TEST_F(WizardPlotDataTest, LosesNoneOfManyFactorsThatContributeAlike) {
+    Names names;
+    for (int i = 0; i < 200; ++i) {
+        names.push_back("F" + std::to_string(i));
+        study.Number(names.back(), 0, 1);
+    }
+    study.optimum.assign(names.size(), 0.5F);
+    study.contributions.assign(names.size(), 1.0F);
+    Names ordered = NamesOf(AnyPlotData(study).GetAxisDefaults());
+    EXPECT_EQ(ordered.front(), "-");
+    ordered.erase(ordered.begin());
+    EXPECT_THAT(ordered, testing::UnorderedElementsAreArray(names));
+}
+
 TEST_F(WizardPlotDataTest, PrefersTheFavouriteToTheOptimumAsStart) {
     AddThreeFactors();
     study.favouriteSetpoint.SetStart({7, 0.25F, 160});

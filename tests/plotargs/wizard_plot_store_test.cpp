@@ -376,6 +376,17 @@ TEST_F(SavedConstants, ChangeTheEntriesThatAreThere) {
               "  A = 0 (LOW)\n  C = 101 (CUSTOM)\n  Cat = Pt (CUSTOM)\n  D = 0.75 (CUSTOM)\n");
 }
 
+TEST_F(SavedConstants, ChangeAQualitativeEntryThatIsTheFirst) {
+    PlotStudy other;
+    other.Names("Cat", {"Pd", "Pt"});
+    other.optimum = {1};
+    AnyPlotData plot(other);
+    Write(1, "Cat", nullptr, "Pt");
+    EXPECT_TRUE(plot.ReadSection(root.get(), Plot::ContourAxis2D, 1, 0));
+    EXPECT_EQ(FactorConstants::NumConstants(plot.GetPlotConstants()), 1);
+    EXPECT_EQ(Find(plot, "Cat")->QualValue(), "Pt");
+}
+
 TEST_F(SavedConstants, KeepAQualitativeEntryForASettingThatIsNotLegal) {
     Write(1, "Cat", nullptr, "Cu");
     EXPECT_EQ(Read(false),
