@@ -68,7 +68,7 @@ void QtPlayer::SetPictureFolder(std::string folder) {
     folder_ = std::move(folder);
 }
 
-void QtPlayer::Drive(QWidget& window, std::function<bool()> hasEnded) {
+void QtPlayer::Drive(QWidget& window, const std::function<bool()>& hasEnded) {
     PlayOn(desktop_, *steps_, window, hasEnded);
 }
 

@@ -31,6 +31,7 @@ WorksheetPeer::WorksheetPeer(QtDesktop& desktop, VirtualWorksheet& model, QTable
     : Peer(desktop, model, table),
       model_(model),
       table_(table),
+      viewport_(table.viewport()),
       cells_(*new WorksheetModel(model, &table)),
       delegate_(*new WorksheetDelegate(model, &table)) {
     table.setModel(&cells_);
@@ -222,7 +223,7 @@ bool WorksheetPeer::eventFilter(QObject* watched, QEvent* event) {
     if (editor_ != nullptr && watched == editor_) {
         return FilterEditor(event);
     }
-    if (watched == table_.viewport()) {
+    if (watched == viewport_) {
         return FilterViewport(event);
     }
     return FilterTableKey(event) || Peer::eventFilter(watched, event);

@@ -54,6 +54,7 @@ private:
 
     VirtualWorksheet& model_;
     QTableView& table_;
+    QWidget* viewport_;  ///< known apart: events still come while the table is being destroyed
     WorksheetModel& cells_;
     WorksheetDelegate& delegate_;
     QPointer<QLineEdit> editor_;

@@ -39,7 +39,7 @@ public:
 
     // For the desktop.
     /// A window is about to open: plays steps on it until `hasEnded`.
-    void Drive(QWidget& window, std::function<bool()> hasEnded);
+    void Drive(QWidget& window, const std::function<bool()>& hasEnded);
     /// A box, or a menu, is about to open: answers it with the mouse, or the keyboard.
     void AnswerBox(QMessageBox& box, const MessageBoxRequest& request);
     void ChooseFromMenu(QMenu& menu, const std::vector<PopupMenuItem>& items);
