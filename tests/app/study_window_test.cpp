@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QTreeWidget>
 
+#include "tests/support/qt_application.h"
+
 namespace {
 
 using testing::ElementsAre;
@@ -33,20 +35,6 @@ void WriteFile(const QString& name, const QByteArray& content) {
 /// A folder with one good study, and a window on it.
 class StudyWindowTest : public testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        static int count = 1;
-        static char name[] = "app";
-        static char* words[] = {name, nullptr};
-        if (qApp == nullptr) {
-            if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
-                qputenv("QT_QPA_PLATFORM", "offscreen");
-            }
-            // Never destroyed: at the exit of the process its platform is gone already.
-            static const QApplication* const application = new QApplication(count, words);
-            static_cast<void>(application);
-        }
-    }
-
     void SetUp() override {
         ASSERT_TRUE(folder_.isValid());
         ASSERT_TRUE(QDir().mkdir(Studies()));

@@ -20,23 +20,10 @@
 #include "kvopt/platform.h"
 #include "kvopt/qt.h"
 #include "kvopt/text.h"
+#include "tests/support/qt_application.h"
 
 namespace kvopt::test {
 namespace {
-
-void NeedApplication() {
-    static int count = 1;
-    static char name[] = "census";
-    static char* words[] = {name, nullptr};
-    if (qApp == nullptr) {
-        if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        }
-        // Never destroyed: at the exit of the process its platform is gone already.
-        static const QApplication* const application = new QApplication(count, words);
-        static_cast<void>(application);
-    }
-}
 
 /// A template by itself, with every control switched on and shown.
 class BareDialog : public CDialog {
@@ -114,8 +101,6 @@ bool ShowsItsLabel(ControlKind kind) {
 
 class QtTemplates : public testing::TestWithParam<int> {
 protected:
-    QtTemplates() { NeedApplication(); }
-
     /// Opens the template in a window, looks at it and cancels.
     void InWindow(const std::function<void(CDialog& dialog, QWidget& window)>& look) {
         QtDesktop desktop;

@@ -2,11 +2,11 @@
 
 #include "kvopt/platform/transcript.h"
 #if defined(KVOPT_HAS_QT)
-#include <QApplication>
 #include <cstdlib>
 #include <filesystem>
 
 #include "kvopt/qt.h"
+#include "tests/support/qt_application.h"
 #endif
 
 #include "kvopt/scripted/scripted_desktop.h"
@@ -27,21 +27,6 @@ private:
 };
 
 #if defined(KVOPT_HAS_QT)
-/// The one application of the process; offscreen unless the environment says otherwise.
-void NeedApplication() {
-    static int count = 1;
-    static char name[] = "stories";
-    static char* words[] = {name, nullptr};
-    if (qApp == nullptr) {
-        qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty()
-                                       ? QByteArray("offscreen")
-                                       : qgetenv("QT_QPA_PLATFORM"));
-        // Never destroyed: at the exit of the process its platform is gone already.
-        static const QApplication* const application = new QApplication(count, words);
-        static_cast<void>(application);
-    }
-}
-
 class QtStoryDesktop : public StoryDesktop {
 public:
     explicit QtStoryDesktop(const UserScript& script) : player_(desktop_, script) {
@@ -72,7 +57,6 @@ std::vector<StoryDesktopKind> AllStoryDesktops() {
          }}};
 #if defined(KVOPT_HAS_QT)
     kinds.push_back({"Qt", [](const UserScript& script) -> std::unique_ptr<StoryDesktop> {
-                         NeedApplication();
                          return std::make_unique<QtStoryDesktop>(script);
                      }});
 #endif
