@@ -23,11 +23,14 @@ std::string CellOr(const VWSConstantInterface& grid, int row, int column, int st
 
 }  // namespace
 
+CWnd* VWSConstantInterface::BoxOwner() const {
+    return mParentPage != nullptr ? static_cast<CWnd*>(mParentPage) : Worksheet();
+}
+
 bool VWSConstantInterface::CheckInterfaceValues(int row, int column, const char* text) {
     if (!IsValid(true)) {
         return false;
     }
-    CWnd* const owner = mParentPage != nullptr ? static_cast<CWnd*>(mParentPage) : Worksheet();
     std::string report;
     const int first = row == -1 ? 1 : row;
     const int last = row == -1 ? RowCount() : row;
@@ -38,8 +41,8 @@ bool VWSConstantInterface::CheckInterfaceValues(int row, int column, const char*
     if (!report.empty()) {
         const std::string question =
             texts::kConstantsReportHead.Text() + report + texts::kConstantsReportQuestion.Text();
-        result = ShowMessage(owner, KvStdString::ToWide(question), BoxStyle::YesNoInformation) ==
-                 BoxAnswer::Yes;
+        result = ShowMessage(BoxOwner(), KvStdString::ToWide(question),
+                             BoxStyle::YesNoInformation) == BoxAnswer::Yes;
     }
     // Also after a No.
     return CheckSum(row, column, text) && result;
@@ -53,8 +56,7 @@ std::string VWSConstantInterface::ReportOnRow(int row, int column, const char* t
         return {};
     }
     const std::string value = CellOr(*this, row, kValueColumn, column, text);
-    if (mInvestigation->GetVariables()->GetType(name) == CEType::Qualitative ||
-        factor->LegalSetting(value)) {
+    if (factor->IsQualitative() || factor->LegalSetting(value)) {
         return {};
     }
     const std::string trimmed = KvStdString::Trim(value);
@@ -84,16 +86,15 @@ bool VWSConstantInterface::CheckSum(int askedRow, int column, const char* text) 
     if (sum == kNotSetF) {
         return true;
     }
-    CWnd* const owner = mParentPage != nullptr ? static_cast<CWnd*>(mParentPage) : Worksheet();
     const int comparison = CompareTolerantly(static_cast<double>(sum), 1.0, kSumTolerance);
     if (comparison > 0) {
-        ShowMessage(owner, texts::kConstantsSumTooHigh.Wide(), BoxStyle::Information);
+        ShowMessage(BoxOwner(), texts::kConstantsSumTooHigh.Wide(), BoxStyle::Information);
         return false;
     }
     // Only when every formulation factor has a row with a number: otherwise the filler or the
     // factors on the axes make up the rest.
     if (comparison < 0 && count == formulationFactors) {
-        ShowMessage(owner, texts::kConstantsSumTooLow.Wide(), BoxStyle::Information);
+        ShowMessage(BoxOwner(), texts::kConstantsSumTooLow.Wide(), BoxStyle::Information);
         return false;
     }
     return true;

@@ -18,6 +18,12 @@ int RowsFor(const Investigation& investigation) {
     return investigation.GetVariables()->GetCount(CEVar::AllFactors);
 }
 
+const std::vector<std::shared_ptr<AxisInfo>>& AxesOrNone(
+    const std::vector<std::shared_ptr<AxisInfo>>* axes) {
+    static const std::vector<std::shared_ptr<AxisInfo>> none;
+    return axes != nullptr ? *axes : none;
+}
+
 }  // namespace
 
 ConstantsPage::ConstantsPage(const Investigation* investigation, const Arguments& arguments,
@@ -26,7 +32,7 @@ ConstantsPage::ConstantsPage(const Investigation* investigation, const Arguments
       arguments_(arguments),
       grid_(std::make_unique<VWSConstantInterface>(this, investigation, RowsFor(*investigation),
                                                    arguments.chooser, arguments.constants,
-                                                   *arguments.axes, readOnly)),
+                                                   AxesOrNone(arguments.axes), readOnly)),
       accelerators_(AcceleratorTable::Find(kWorksheetAccelerators)) {}
 
 ConstantsPage::~ConstantsPage() = default;

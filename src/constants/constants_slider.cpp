@@ -95,10 +95,7 @@ bool VWSConstantInterface::MouseMove(const CPoint& point, const CPoint& cell, co
 }
 
 bool VWSConstantInterface::IsSliderClosed(const FactorClass& factor) const {
-    const Variables& variables = *mInvestigation->GetVariables();
-    const bool lockedFormulation = factor.IsMixture() && mParentPage == nullptr &&
-                                   (mFormulationOnAxis || !variables.IsAnyFiller());
-    return factor.IsQualitative() || mReadOnly || lockedFormulation ||
+    return factor.IsQualitative() || mReadOnly || IsLockedFormulation(factor) ||
            mRenderers.find(&factor) == mRenderers.end();
 }
 

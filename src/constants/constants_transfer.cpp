@@ -19,7 +19,7 @@ FactorConstants::SettingType VWSConstantInterface::SetFactorConstantValue(
     int column, int row, const std::string& factorName) {
     const Variables& variables = *mInvestigation->GetVariables();
     const FactorClass* factor = mInvestigation->GetVariables()->GetFactor(factorName);
-    const bool qualitative = variables.GetType(factorName) == CEType::Qualitative;
+    const bool qualitative = factor != nullptr && factor->IsQualitative();
     std::string text;
     FactorConstants::SettingType setting = FactorConstants::REF;
 
@@ -61,7 +61,7 @@ void VWSConstantInterface::GetFactorConstantValue(int column, int row,
     const FactorConstants::SettingType setting =
         FactorConstants::WhichSetting(variables, factor, text.c_str());
     FactorConstants::Constant constant;
-    if (variables.GetType(factorName) == CEType::Qualitative) {
+    if (factor->IsQualitative()) {
         constant = FactorConstants::Constant(factorName, text, setting);
     } else {
         float value = kNotSetF;

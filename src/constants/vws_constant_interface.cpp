@@ -68,7 +68,13 @@ void VWSConstantInterface::Init(int rows) {
 }
 
 void VWSConstantInterface::SetConstantsChooser(ConstantsChooser* chooser) {
-    mChooser.reset(chooser);
+    if (chooser != mChooser.get()) {
+        mChooser.reset(chooser);
+    }
+}
+
+bool VWSConstantInterface::SkipsFactor(const FactorClass& factor) const {
+    return mChooser != nullptr && mChooser->SkipFactor(factor.name);
 }
 
 const FactorClass* VWSConstantInterface::FactorOfRow(int row) const {
@@ -86,23 +92,20 @@ bool VWSConstantInterface::IsBlockRandom() const {
 }
 
 void VWSConstantInterface::UpdateInterface() {
-    const Variables& variables = *mInvestigation->GetVariables();
     ResetOff();
     SetColumnFont(kFactorColumn, ListOptions::Instance().boldFactorNames ? 2 : 0);
 
     const std::vector<FactorClass*> factors = mInvestigation->GetVariables()->GetAllFactors();
     mFormulationOnAxis = false;
     for (const FactorClass* factor : factors) {
-        if (mChooser->SkipFactor(factor->name) &&
-            variables.GetType(factor->name) == CEType::Formulation) {
+        if (SkipsFactor(*factor) && factor->IsMixture()) {
             mFormulationOnAxis = true;
         }
     }
 
     int row = 1;
     for (const FactorClass* factor : factors) {
-        if (variables.GetType(factor->name) == CEType::Filler ||
-            mChooser->SkipFactor(factor->name)) {
+        if (factor->factorValue.type == CEType::Filler || SkipsFactor(*factor)) {
             continue;
         }
         if (row > RowCount()) {
@@ -121,18 +124,18 @@ void VWSConstantInterface::UpdateInterface() {
 }
 
 void VWSConstantInterface::SetUpRow(const FactorClass& factor, int row) {
-    const Variables& variables = *mInvestigation->GetVariables();
     const ListOptions& options = ListOptions::Instance();
-    const CEType::EType type = variables.GetType(factor.name);
     const bool available =
         ResponseModelUtilities(mInvestigation).IsFactorAvailable(&factor, true, false);
 
-    if (variables.GetUse(factor.name) == CEUse::Constant) {
+    if (factor.IsConstant()) {
+        mRenderers.erase(&factor);
         CloseRow(row, FieldDef::Locked, options.readOnlyColour);
         SetCellValue(kSliderColumn, row, "");
         return;
     }
-    if (CEType::IsList(type)) {
+    if (CEType::IsList(factor.factorValue.type)) {
+        mRenderers.erase(&factor);
         if (!mReadOnly && available) {
             SetUpList(factor, row);
         } else {
@@ -145,8 +148,7 @@ void VWSConstantInterface::SetUpRow(const FactorClass& factor, int row) {
         SetCellValue(kSliderColumn, row, "");
         return;
     }
-    if (type == CEType::Formulation && mParentPage == nullptr &&
-        (mFormulationOnAxis || !variables.IsAnyFiller())) {
+    if (IsLockedFormulation(factor)) {
         CloseRow(row, FieldDef::Plain, options.lockedFormulationColour);
     } else if (!mReadOnly && available) {
         *GetFieldDef(kValueColumn, row, true) = FieldDef::Number;
@@ -155,6 +157,11 @@ void VWSConstantInterface::SetUpRow(const FactorClass& factor, int row) {
         CloseRow(row, FieldDef::Locked, options.readOnlyColour);
     }
     mRenderers[&factor] = std::make_shared<ConstantsCellRenderer>(*this, factor);
+}
+
+bool VWSConstantInterface::IsLockedFormulation(const FactorClass& factor) const {
+    return factor.IsMixture() && mParentPage == nullptr &&
+           (mFormulationOnAxis || !mInvestigation->GetVariables()->IsAnyFiller());
 }
 
 void VWSConstantInterface::CloseRow(int row, FieldDef::FieldType valueType, Colour colour) {
@@ -180,6 +187,7 @@ void VWSConstantInterface::SetFieldConstantSettings(int column, int row, const c
     if (mReadOnly) {
         const Colour colour = ListOptions::Instance().readOnlyColour;
         *GetFieldDef(column, row, true) = FieldDef::Locked;
+        ClearFieldComboSetting(column, row);
         SetFieldColor(column, row, colour);
         *GetFieldDef(kSliderColumn, row, true) = FieldDef::Plain;
         SetFieldColor(kSliderColumn, row, colour);
@@ -202,7 +210,7 @@ std::string VWSConstantInterface::GetCellText(int column, int row) const {
 }
 
 void VWSConstantInterface::UpdateValue(int column, int row, const char* text) {
-    Data().SetData(column, row, text);
+    Data().SetData(column, row, text != nullptr ? text : "");
 }
 
 const VWSRenderer* VWSConstantInterface::GetCellRenderer(int column, int row) const {
@@ -210,7 +218,7 @@ const VWSRenderer* VWSConstantInterface::GetCellRenderer(int column, int row) co
         const FactorClass* factor = FactorOfRow(row);
         if (factor != nullptr &&
             ResponseModelUtilities(mInvestigation).IsFactorAvailable(factor, true, false) &&
-            !CEType::IsList(mInvestigation->GetVariables()->GetType(factor->name))) {
+            !CEType::IsList(factor->factorValue.type)) {
             const auto found = mRenderers.find(factor);
             if (found != mRenderers.end()) {
                 return found->second.get();

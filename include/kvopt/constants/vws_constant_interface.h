@@ -15,6 +15,7 @@ namespace kvopt {
 class AxisInfo;
 class ConstantsCellRenderer;
 class ConstantsChooser;
+class CWnd;
 class FactorClass;
 class Investigation;
 class KvPropertyPage;
@@ -36,7 +37,7 @@ public:
     ~VWSConstantInterface() override;
 
     void SetConstants(FactorConstants::Constant* constants) { mConstants = constants; }
-    /// Takes the chooser over and deletes the one before.
+    /// Takes the chooser over and deletes the one before. Null lists every factor.
     void SetConstantsChooser(ConstantsChooser* chooser);
     ConstantsChooser* GetConstantsChooser() const { return mChooser.get(); }
     void SetParent(KvPropertyPage* page) { mParentPage = page; }
@@ -89,8 +90,12 @@ private:
     void CloseRow(int row, FieldDef::FieldType valueType, Colour colour);
     void AddRenderer(const FactorClass& factor);
     const FactorClass* FactorOfRow(int row) const;
+    bool SkipsFactor(const FactorClass& factor) const;
     bool IsBlockRandom() const;
+    /// In free-standing use formulation factors that must make up the rest are closed.
+    bool IsLockedFormulation(const FactorClass& factor) const;
     bool IsSliderClosed(const FactorClass& factor) const;
+    CWnd* BoxOwner() const;
     std::string ReportOnRow(int row, int column, const char* text) const;
     bool CheckSum(int askedRow, int column, const char* text) const;
     void PushSliderCell(int column, int row);
