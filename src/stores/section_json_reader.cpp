@@ -312,13 +312,7 @@ private:
         return printable + (text.size() > kLongest ? "..." : "");
     }
 
-    // Appended piece by piece: of a sum of such texts the optimizing g++ 12 warns for nothing.
-    static std::string Quoted(std::string_view text) {
-        std::string quoted = "\"";
-        quoted += Printable(text);
-        quoted += '"';
-        return quoted;
-    }
+    static std::string Quoted(std::string_view text) { return "\"" + Printable(text) + "\""; }
 
     std::string Path() const {
         std::string path;
