@@ -151,6 +151,7 @@ TEST(ReferenceStudy, AsksOfEachResponseWhatItsLimitsSay) {
                            .Build();
     const auto& settings = study->GetDesignSpacePredictor()->GetResponseSettings();
     ASSERT_EQ(settings.size(), 4U);
+    EXPECT_EQ(study->GetDesignSpacePredictor()->GetResponseSettings().size(), 4U);
     EXPECT_EQ(settings[0].criterion, 2U);
     EXPECT_EQ(settings[1].criterion, 0U);
     EXPECT_EQ(settings[2].criterion, 1U);
