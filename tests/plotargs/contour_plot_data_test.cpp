@@ -141,6 +141,14 @@ TEST_F(ContourPlotDataTest, WritesAnUnknownPlotTypesSettingsToTheFirstSection) {
     EXPECT_THROW(plot.Write4DSettings(static_cast<ContourPlotData::AxisType>(9)), InvalidArgument);
 }
 
+TEST_F(ContourPlotDataTest, WritesTheSetThatIsNeverSelectedToTheFirstSection) {
+    ContourPlotData plot = Plot();
+    SetAxis(*plot.GetAxisInfo(5)[1], "A", 1, 2);
+    plot.Write4DSettings(static_cast<ContourPlotData::AxisType>(5));
+    EXPECT_EQ(Text("ContourAxis", "1stAxis"), "A");
+    EXPECT_EQ(Text("ContourAxis2D", "1stAxis"), "absent");
+}
+
 TEST_F(ContourPlotDataTest, CountsConstantsOfTheSelectedSet) {
     ContourPlotData plot = Plot();
     EXPECT_EQ(plot.AvailableConstants(), 8);
@@ -305,8 +313,12 @@ TEST_F(ContourPlotDataTest, DoesNotCompareTheThirdMixtureAxisWithTheExtraPair) {
 TEST_F(ContourPlotDataTest, TakesTheRangeOfAnotherSetForAnUnknownExtraFactor) {
     In("ContourAxis2D").WriteKey("1stAxis", "A");
     In("ContourAxis2D").WriteKey("2ndAxis", "B");
+    In("ContourAxisMixture").WriteKey("2ndAxis", "M2");
     In("ContourAxis4D").WriteKey("2ndAxis", "Gone");
     const ContourPlotData plot = Plot();
+    for (const int set : {3, 4}) {
+        EXPECT_NE(plot.GetAxisInfo(set)[2]->GetMax(), kNotSetF) << set;
+    }
     for (const int set : {1, 2}) {
         EXPECT_EQ(Describe(*plot.GetAxisInfo(set)[1]), "'A' [] 0..10 {} quantitative") << set;
         EXPECT_EQ(Describe(*plot.GetAxisInfo(set)[2]), "'B' [] -99..-99 {} quantitative") << set;

@@ -74,6 +74,7 @@ TEST_F(WizardPlotDataTest, RefusesANullStudyAndNumbersBelowZero) {
     EXPECT_THROW(AnyPlotData(study, -1), InvalidArgument);
     EXPECT_THROW(AnyPlotData(study, 1, -1), InvalidArgument);
     EXPECT_THROW(AnyPlotData(study, 1, 1, -1), InvalidArgument);
+    EXPECT_NO_THROW(AnyPlotData(study, 0, 0, 0));
 }
 
 TEST_F(WizardPlotDataTest, NamesTheSectionOfEachAxisType) {
@@ -454,7 +455,8 @@ TEST_F(WizardPlotDataTest, TakesAResponseWithoutAModelAsUsingNoFactor) {
     EXPECT_EQ(plot.NumAxesLegal("Y", 1, 2), 0);
     EXPECT_EQ(plot.NumAxesLegal("unknown", 1, 2), 0);
     EXPECT_EQ(plot.NumAxesLegal(nullptr, 1, 2), 0);
-    EXPECT_EQ(plot.RemoveIllegalAxes("Y", 1, 2), 1);
+    EXPECT_EQ(plot.RemoveIllegalAxes("Y", 1, 0), 0);
+    EXPECT_EQ(plot.RemoveIllegalAxes("Y", 1, 1), 1) << "the last of the count as well";
 }
 
 TEST_F(WizardPlotDataTest, RemovesAnAxisWhoseFactorIsUnknown) {

@@ -175,6 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
         AxisFault{"equal", "Speed", false, "", 1, 1, AxisInfo::ReversedRange},
         AxisFault{"reversed", "Speed", false, "a", 2, 1, AxisInfo::ReversedRange},
         AxisFault{"qualitative", "Colour", true, "a;b", kNotSetF, kNotSetF, AxisInfo::NoAxisError},
+        AxisFault{"oneSetting", "Colour", true, "a", 1, 2, AxisInfo::NoAxisError},
         AxisFault{"noSettings", "Colour", true, "", 1, 2, AxisInfo::NoSettings},
         AxisFault{"emptySettings", "Colour", true, ";;", 1, 2, AxisInfo::NoSettings}),
     testing::PrintToStringParamName());
@@ -309,7 +310,7 @@ TEST(AxisInfoVector, CountsAvailableMixtureFactorsAsAvailable) {
 
 TEST(AxisInfoVector, PutsEmptyElementsLastAndLosesNone) {
     Axes axes = AxesOf({"x", "y"});
-    AxisInfoVector::PreferAvailableFactors(axes, AxesOf({"c", "", "a"}), {"a"}, {});
+    AxisInfoVector::PreferAvailableFactors(axes, AxesOf({"", "c", "a"}), {"a"}, {});
     EXPECT_EQ(NamesOf(axes), (std::vector<std::string>{"a", "c", "-"}));
 }
 

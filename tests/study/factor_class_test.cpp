@@ -193,19 +193,23 @@ TEST_P(NumbersAsSettings, AreLegalWithinTheRecommendedRange) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, NumbersAsSettings,
-    testing::Values(
-        LegalCase{"inside", 10, 20, "15", true}, LegalCase{"low", 10, 20, "10", true},
-        LegalCase{"high", 10, 20, "20", true}, LegalCase{"below", 10, 20, "9.99", false},
-        LegalCase{"above", 10, 20, "20.01", false}, LegalCase{"blanks", 10, 20, "  15 ", true},
-        LegalCase{"empty", 10, 20, "", false}, LegalCase{"letters", 10, 20, "x", false},
-        LegalCase{"comma", 10, 20, "15,5", false}, LegalCase{"noLow", kNotSet, 20, "-1e9", true},
-        LegalCase{"noHigh", 10, kNotSet, "1e9", true},
-        LegalCase{"noLimits", kNotSet, kNotSet, "5", true},
-        LegalCase{"noLimitsLetters", kNotSet, kNotSet, "five", false},
-        LegalCase{"lowAsPrinted", 1.0 / 3.0, 2, "0.333333", true},
-        LegalCase{"belowLowAsPrinted", 1.0 / 3.0, 2, "0.33333", false},
-        LegalCase{"highAsPrinted", 0, 2.0 / 3.0, " 0.666667", true},
-        LegalCase{"aboveHighAsPrinted", 0, 2.0 / 3.0, "0.66667", false}),
+    testing::Values(LegalCase{"inside", 10, 20, "15", true}, LegalCase{"low", 10, 20, "10", true},
+                    LegalCase{"high", 10, 20, "20", true},
+                    LegalCase{"below", 10, 20, "9.99", false},
+                    LegalCase{"above", 10, 20, "20.01", false},
+                    LegalCase{"lowSpelledOtherwise", 10, 20, "10.0", true},
+                    LegalCase{"highSpelledOtherwise", 10, 20, "2e1", true},
+                    LegalCase{"blanks", 10, 20, "  15 ", true},
+                    LegalCase{"empty", 10, 20, "", false}, LegalCase{"letters", 10, 20, "x", false},
+                    LegalCase{"comma", 10, 20, "15,5", false},
+                    LegalCase{"noLow", kNotSet, 20, "-1e9", true},
+                    LegalCase{"noHigh", 10, kNotSet, "1e9", true},
+                    LegalCase{"noLimits", kNotSet, kNotSet, "5", true},
+                    LegalCase{"noLimitsLetters", kNotSet, kNotSet, "five", false},
+                    LegalCase{"lowAsPrinted", 1.0 / 3.0, 2, "0.333333", true},
+                    LegalCase{"belowLowAsPrinted", 1.0 / 3.0, 2, "0.33333", false},
+                    LegalCase{"highAsPrinted", 0, 2.0 / 3.0, " 0.666667", true},
+                    LegalCase{"aboveHighAsPrinted", 0, 2.0 / 3.0, "0.66667", false}),
     testing::PrintToStringParamName());
 
 TEST(FactorClass, TakesTheSettingsInUseByTheirExactNames) {

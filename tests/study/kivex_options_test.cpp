@@ -139,6 +139,34 @@ TEST(KivexOptions, KeepWhatIsNoValueOfItsField) {
     EXPECT_EQ(options, Changed());
 }
 
+TEST(KivexOptions, TakeEveryNumberOfTheirRangesAndNoOther) {
+    struct Range {
+        const char* key;
+        int KivexOptions::*field;
+        int lowest;
+        int highest;
+    };
+    const Range ranges[] = {
+        {"QualitativePresentation", &KivexOptions::qualitativePresentation, 1, 2},
+        {"FactorRepresentation", &KivexOptions::factorRepresentation, 1, 2},
+        {"ResponseRepresentation", &KivexOptions::responseRepresentation, 1, 2},
+        {"FailureCorrelation", &KivexOptions::failureCorrelation, 0, 2},
+        {"DesignMatrixSource", &KivexOptions::designMatrixSource, 0, 1},
+        {"FitEqualModelsAsOne", &KivexOptions::fitEqualModelsAsOne, 0, 1},
+    };
+    for (const Range& range : ranges) {
+        for (int number = range.lowest - 1; number <= range.highest + 1; ++number) {
+            ConfigurationStore store;
+            store.Root()->WriteKey(range.key, number);
+            KivexOptions options;
+            options.*range.field = 77;
+            options.LoadOptions(*store.Root());
+            const bool known = number >= range.lowest && number <= range.highest;
+            EXPECT_EQ(options.*range.field, known ? number : 77) << range.key << number;
+        }
+    }
+}
+
 TEST(KivexOptions, StoreTheLabelTypeByItsText) {
     ConfigurationStore store;
     Changed().SaveOptions(*store.Root());

@@ -130,6 +130,19 @@ TEST(SelectResponseBase, KeepsTheTypeForANumberThatIsNone) {
     }
 }
 
+TEST(SelectResponseBase, ReadsEachTypeOverAnyOther) {
+    for (int number = 1; number <= 3; ++number) {
+        ConfigurationStore store;
+        SelectResponseBase::WriteSection(store.Root().get(), {"Yield"}, false,
+                                         static_cast<SelectResponseBase::ResponseType>(number));
+        Read read;
+        read.type = static_cast<SelectResponseBase::ResponseType>(number % 3 + 1);
+        EXPECT_TRUE(SelectResponseBase::ReadSection(store.Root().get(), read.responses,
+                                                    read.allSelected, read.type));
+        EXPECT_EQ(read.type, number);
+    }
+}
+
 TEST(SelectResponseBase, PassesOverEntriesWithoutANameOrWithoutTheirNumber) {
     ConfigurationStore store;
     const auto section = store.Root()->GetSection("SelectedResponses");

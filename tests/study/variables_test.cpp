@@ -64,7 +64,9 @@ TEST_F(StudyVariables, CountFactorsFromOne) {
     EXPECT_EQ(vars().GetFactor(8), "Sand");
     EXPECT_EQ(vars().GetFactor(0), "");
     EXPECT_EQ(vars().GetFactor(9), "");
+    EXPECT_EQ(vars().GetIndexFactor(1), vars().GetFactor(kBlockFactorName));
     EXPECT_EQ(vars().GetIndexFactor(2), speed_);
+    EXPECT_EQ(vars().GetIndexFactor(8), filler_);
     EXPECT_EQ(vars().GetIndexFactor(0), nullptr);
     EXPECT_EQ(vars().GetIndexFactor(-1), nullptr);
     EXPECT_EQ(vars().GetIndexFactor(9), nullptr);
@@ -203,6 +205,7 @@ TEST_F(StudyVariables, ShareTheRestWhenTheHeldPartWasTheWholeReference) {
     one.Part("A", 1.0, 1.0);
     one.Part("B", 0.0, 0.0);
     one.Part("C", 0.0, 0.0);
+    EXPECT_EQ(Reference(*one.GetVariables(), "A"), 1.0);
     EXPECT_DOUBLE_EQ(Reference(*one.GetVariables(), "B", "A", 0.4), 0.3);
 }
 
