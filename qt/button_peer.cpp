@@ -10,24 +10,23 @@ namespace kvopt {
 
 ButtonPeer::ButtonPeer(QtDesktop& desktop, CButton& model, QAbstractButton& button)
     : Peer(desktop, model, button), model_(model), button_(button) {
-    connect(&button, &QAbstractButton::clicked, this, [this] {
-        User([&] { model_.UserClick(); });
-        // The model has the last word on the mark.
-        if (Model() != nullptr) {
-            OnWindowChanged(model_, WindowChange::Check);
-        }
-    });
+    connect(&button, &QAbstractButton::clicked, this,
+            [this] { User([&] { model_.UserClick(); }); });
 }
 
 void ButtonPeer::Push(WindowChange change) {
-    if (change == WindowChange::Text) {
+    if (change == WindowChange::Text && button_.text() != ToQt(model_.GetText())) {
         button_.setText(ToQt(model_.GetText()));
-    } else if (change == WindowChange::Check && button_.isCheckable()) {
+    } else if (change == WindowChange::Check) {
         ShowCheck();
     }
 }
 
 void ButtonPeer::ShowCheck() {
+    if (model_.GetCheck() && !button_.isCheckable()) {
+        // A push button that shows a state stays down while that is on.
+        button_.setCheckable(true);
+    }
     QButtonGroup* group = button_.group();
     const bool exclusive = group != nullptr && group->exclusive();
     if (exclusive) {

@@ -5,9 +5,9 @@
 #include <QVBoxLayout>
 
 #include "kvopt/platform/dialog.h"
-#include "qt/frame_texts.h"
 #include "qt/page_view.h"
 #include "qt/qt_text.h"
+#include "resources/qt_texts.h"
 
 namespace kvopt {
 

@@ -1,47 +1,50 @@
 #include "qt/edit_peer.h"
 
-#include <QKeyEvent>
-#include <QLineEdit>
+#include <algorithm>
 
 #include "kvopt/platform/edit.h"
+#include "qt/line_edit.h"
 #include "qt/qt_text.h"
 
 namespace kvopt {
 
-EditPeer::EditPeer(QtDesktop& desktop, CEdit& model, QLineEdit& edit)
+namespace {
+
+/// Room for a number as pages print it, "-1.23457e-05".
+constexpr int kCharacters = 12;
+
+}  // namespace
+
+EditPeer::EditPeer(QtDesktop& desktop, CEdit& model, LineEdit& edit)
     : Peer(desktop, model, edit), model_(model), edit_(edit) {
-    edit.setMinimumWidth(edit.fontMetrics().horizontalAdvance(QStringLiteral("0")) * 10);
+    edit.setMinimumWidth(edit.fontMetrics().horizontalAdvance(QLatin1Char('0')) * kCharacters);
     connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
         User([&] {
-            const std::wstring whole = text.toStdWString();
-            if (pasting_) {
-                model_.UserPaste(whole);
+            if (edit_.IsTyping()) {
+                model_.UserEdit(text.toStdWString());
             } else {
-                model_.UserEdit(whole);
+                model_.UserPaste(text.toStdWString());
             }
         });
     });
 }
 
-bool EditPeer::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event) == QKeySequence::Paste) {
-        // The line edit pastes within this call; afterwards keys are typing again.
-        pasting_ = true;
-        edit_.paste();
-        pasting_ = false;
-        return true;
-    }
-    return Peer::eventFilter(watched, event);
+void EditPeer::TakeFocus() {
+    Peer::TakeFocus();
+    // What was refused is replaced by typing.
+    edit_.selectAll();
 }
 
 void EditPeer::Push(WindowChange change) {
     const QString text = ToQt(model_.GetText());
-    if (change == WindowChange::Text && edit_.text() != text) {
-        const int cursor = edit_.cursorPosition();
-        edit_.setText(text);
-        edit_.setCursorPosition(cursor);
+    if (change != WindowChange::Text || edit_.text() == text) {
+        return;
     }
+    // A character that was dropped leaves the cursor where it was before it.
+    const auto dropped = static_cast<int>(edit_.text().size() - text.size());
+    const int cursor = edit_.cursorPosition() - (edit_.IsTyping() ? std::max(dropped, 0) : 0);
+    edit_.setText(text);
+    edit_.setCursorPosition(std::max(cursor, 0));
 }
 
 }  // namespace kvopt

@@ -2,25 +2,23 @@
 
 #include "qt/peer.h"
 
-class QLineEdit;
-
 namespace kvopt {
 
 class CEdit;
+class LineEdit;
 
 /// A line of text.
 class EditPeer : public Peer {
 public:
-    EditPeer(QtDesktop& desktop, CEdit& model, QLineEdit& edit);
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    EditPeer(QtDesktop& desktop, CEdit& model, LineEdit& edit);
 
 protected:
     void Push(WindowChange change) override;
+    void TakeFocus() override;
 
 private:
     CEdit& model_;
-    QLineEdit& edit_;
-    bool pasting_ = false;
+    LineEdit& edit_;
 };
 
 }  // namespace kvopt

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "kvopt/platform/dialog.h"
 #include "qt/qt_text.h"
 
 namespace kvopt {
@@ -14,6 +15,11 @@ LabelPeer::LabelPeer(QtDesktop& desktop, CControl& model, QLabel& label)
 void LabelPeer::Push(WindowChange change) {
     if (change == WindowChange::Text) {
         label_.setText(ToQt(Model()->GetText()));
+        const CControl* led = Model()->Dialog().GetDlgItem(Model()->Template().buddy);
+        if (led != nullptr && label_.buddy() != nullptr) {
+            // What it leads to may be called by it.
+            label_.buddy()->setAccessibleName(ToQt(led->AccessibleName()));
+        }
     }
 }
 

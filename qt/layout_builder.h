@@ -5,6 +5,8 @@
 #include "kvopt/platform/dialog_template.h"
 
 class QBoxLayout;
+class QGridLayout;
+class QLabel;
 class QLayout;
 class QWidget;
 
@@ -24,13 +26,22 @@ public:
     void Build();
 
 private:
-    QLayout* MakeLayout(const LayoutItem& item, QWidget& parent);
-    QBoxLayout* MakeBox(const LayoutItem& item, QWidget& parent);
-    QLayout* MakeGrid(const LayoutItem& item, QWidget& parent);
+    /// One of these: a control or a group is a widget, any other container a layout, a space
+    /// neither.
+    struct Part {
+        QWidget* widget = nullptr;
+        QLayout* layout = nullptr;
+    };
+
+    Part Make(const LayoutItem& item, QWidget& parent);
+    QBoxLayout* MakeRow(const LayoutItem& item, QWidget& parent);
+    QBoxLayout* MakeColumn(const LayoutItem& item, QWidget& parent);
+    QGridLayout* MakeGrid(const LayoutItem& item, QWidget& parent);
+    QGridLayout* MakeStack(const LayoutItem& item, QWidget& parent);
     QWidget* MakeGroup(const LayoutItem& item, QWidget& parent);
     QWidget* NextControl(QWidget& parent);
-    void AddToBox(QBoxLayout& box, const LayoutItem& item, QWidget& parent);
-    void BindLabels();
+    void AlignLabels(const LayoutItem& column) const;
+    void BindBuddies();
     void SetTabOrder();
 
     QtDesktop& desktop_;
@@ -38,6 +49,7 @@ private:
     QWidget& page_;
     std::size_t next_ = 0;  ///< the dialog's controls stand in the order of the layout's leaves
     std::map<const CControl*, QWidget*> widgets_;
+    std::map<const LayoutItem*, QLabel*> labels_;
 };
 
 }  // namespace kvopt

@@ -1,7 +1,6 @@
 #include "qt/list_peer.h"
 
 #include <QListWidget>
-#include <QScrollBar>
 #include <algorithm>
 
 #include "kvopt/platform/list_box.h"
@@ -33,13 +32,18 @@ ListPeer::ListPeer(QtDesktop& desktop, CListBox& model, QListWidget& list)
 
 void ListPeer::Push(WindowChange change) {
     if (change == WindowChange::Items) {
-        // What is in view stays in view, however entries move.
-        const int scrolled = list_.verticalScrollBar()->value();
-        list_.clear();
-        for (int index = 0; index < model_.GetCount(); ++index) {
-            list_.addItem(ToQt(model_.GetItemText(index)));
+        // Entry by entry, so that what is in view stays in view.
+        while (list_.count() > model_.GetCount()) {
+            delete list_.takeItem(list_.count() - 1);
         }
-        list_.verticalScrollBar()->setValue(scrolled);
+        for (int index = 0; index < model_.GetCount(); ++index) {
+            const QString text = ToQt(model_.GetItemText(index));
+            if (index == list_.count()) {
+                list_.addItem(text);
+            } else if (list_.item(index)->text() != text) {
+                list_.item(index)->setText(text);
+            }
+        }
     }
     if (change == WindowChange::Items || change == WindowChange::Selection) {
         for (int index = 0; index < model_.GetCount(); ++index) {

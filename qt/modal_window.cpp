@@ -7,16 +7,19 @@
 
 #include "kvopt/platform/dialog.h"
 #include "kvopt/platform/keys.h"
+#include "kvopt/platform/kv_property_page.h"
 #include "kvopt/qt/qt_desktop.h"
 #include "qt/qt_text.h"
+#include "resources/qt_texts.h"
 
 namespace kvopt {
 
 namespace {
 
-/// Nothing for a key that no page is asked about.
 KeyStroke StrokeOf(const QKeyEvent& event) {
-    KeyStroke stroke;
+    KeyStroke stroke{0, (event.modifiers() & Qt::ControlModifier) != 0,
+                     (event.modifiers() & Qt::ShiftModifier) != 0,
+                     (event.modifiers() & Qt::AltModifier) != 0};
     switch (event.key()) {
         case Qt::Key_Insert:
             stroke.key = kKeyInsert;
@@ -24,19 +27,23 @@ KeyStroke StrokeOf(const QKeyEvent& event) {
         case Qt::Key_Delete:
             stroke.key = kKeyDelete;
             break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            stroke.key = kKeyReturn;
+            break;
+        case Qt::Key_Escape:
+            stroke.key = kKeyEscape;
+            break;
         case Qt::Key_F1:
             stroke.key = kKeyF1;
             break;
         default:
-            if (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_Z &&
-                (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
+            if ((event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9) ||
+                (event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z)) {
                 stroke.key = event.key();
             }
             break;
     }
-    stroke.control = (event.modifiers() & Qt::ControlModifier) != 0;
-    stroke.shift = (event.modifiers() & Qt::ShiftModifier) != 0;
-    stroke.alt = (event.modifiers() & Qt::AltModifier) != 0;
     return stroke;
 }
 
@@ -77,31 +84,57 @@ QAbstractButton* ModalWindow::ButtonFor(FrameButton button) const {
 
 QAbstractButton* ModalWindow::AddButton(FrameButton button, const QString& text) {
     auto* widget = new QPushButton(text, this);
-    widget->setAutoDefault(false);
     connect(widget, &QPushButton::clicked, this,
             [this, button] { desktop_.Guard([&] { PressButton(button); }); });
     buttons_[button] = widget;
     return widget;
 }
 
-bool ModalWindow::eventFilter(QObject* watched, QEvent* event) {
-    auto* widget = qobject_cast<QWidget*>(watched);
-    if (event->type() != QEvent::KeyPress || widget == nullptr || widget->window() != this) {
-        return false;
+QAbstractButton* ModalWindow::AddHelpButton() {
+    auto* button = new QPushButton(ToQt(texts::kFrameHelp.Wide()), this);
+    connect(button, &QPushButton::clicked, this, [this] { ShowHelp(); });
+    help_ = button;
+    return help_;
+}
+
+void ModalWindow::ShowHelpButton() {
+    const auto* page = dynamic_cast<const KvPropertyPage*>(Scope().ActiveDialog());
+    help_->setVisible(desktop_.HasHelpViewer() && page != nullptr && page->HasHelp());
+}
+
+void ModalWindow::ShowHelp() {
+    if (CDialog* dialog = Scope().ActiveDialog()) {
+        desktop_.Guard(
+            [&] { desktop_.RunUserAction([dialog] { return dialog->OnCommand(kCommandHelp); }); });
     }
-    const KeyStroke stroke = StrokeOf(*static_cast<QKeyEvent*>(event));
+}
+
+bool ModalWindow::eventFilter(QObject* watched, QEvent* event) {
+    // What the focused widget does not take comes by again on its way up to the window.
+    const QObject* first = focusWidget() != nullptr ? focusWidget() : this;
+    return event->type() == QEvent::KeyPress && watched == first &&
+           TakeKey(static_cast<QKeyEvent&>(*event));
+}
+
+bool ModalWindow::TakeKey(const QKeyEvent& event) {
+    const KeyStroke stroke = StrokeOf(event);
     CDialog* dialog = Scope().ActiveDialog();
     if (stroke.key == 0 || dialog == nullptr) {
         return false;
     }
     bool taken = false;
-    desktop_.Guard([&] {
-        taken = dialog->UserKey(stroke);
-        if (!taken && stroke == KeyStroke{kKeyF1}) {
-            taken = desktop_.RunUserAction([&] { return dialog->OnCommand(kCommandHelp); });
-        }
-    });
+    desktop_.Guard([&] { taken = dialog->UserKey(stroke); });
     return taken;
+}
+
+void ModalWindow::keyPressEvent(QKeyEvent* event) {
+    CDialog* dialog = Scope().ActiveDialog();
+    if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier && dialog != nullptr) {
+        desktop_.Guard(
+            [&] { desktop_.RunUserAction([dialog] { return dialog->OnCommand(kCommandHelp); }); });
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void ModalWindow::accept() {

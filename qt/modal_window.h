@@ -33,15 +33,23 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     virtual void PressButton(FrameButton button) = 0;
     QAbstractButton* AddButton(FrameButton button, const QString& text);
+    /// A button that is seen while the desktop can show help and the page in front has some.
+    QAbstractButton* AddHelpButton();
+    void ShowHelpButton();
 
     QtDesktop& desktop_;
 
 private:
+    bool TakeKey(const QKeyEvent& event);
+    void ShowHelp();
+
     CWnd* model_;
     std::map<FrameButton, QAbstractButton*> buttons_;
+    QAbstractButton* help_ = nullptr;
 };
 
 }  // namespace kvopt

@@ -12,6 +12,15 @@ PageView::PageView(QtDesktop& desktop, CDialog& dialog, QWidget* parent)
     LayoutBuilder(desktop, dialog, *this).Build();
 }
 
+PageView::~PageView() {
+    // Widgets send events while they are destroyed, and are no longer what their peers think.
+    for (QObject* child : findChildren<QObject*>()) {
+        if (auto* peer = dynamic_cast<Peer*>(child)) {
+            peer->LetGo();
+        }
+    }
+}
+
 QWidget* PageView::WidgetOf(const QWidget& window, const CControl& control) {
     for (QObject* child : window.findChildren<QObject*>()) {
         auto* peer = dynamic_cast<Peer*>(child);

@@ -12,6 +12,7 @@ class QtDesktop;
 class PageView : public QWidget {
 public:
     PageView(QtDesktop& desktop, CDialog& dialog, QWidget* parent);
+    ~PageView() override;
 
     CDialog& Dialog() const { return dialog_; }
     /// Gives the keyboard to what the page says has the focus, else to the first control.

@@ -2,15 +2,19 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPalette>
 
 #include "kvopt/platform/cell_canvas.h"
 
 namespace kvopt {
 
-/// A cell canvas over a painter. Texts start in the given colour until a renderer sets another.
+/// A cell canvas over a painter. A cell begins in the palette's own colours. Renderers name colours
+/// that were chosen for a light ground: one that cannot be made out on the ground it meets, in a
+/// dark palette say, is drawn black or white, whichever shows better.
 class PainterCanvas : public CellCanvas {
 public:
-    PainterCanvas(QPainter& painter, const QColor& text, bool darkPalette);
+    /// `cell` is the whole cell.
+    PainterCanvas(QPainter& painter, const CRect& cell, const QPalette& palette);
 
     void FillRect(const CRect& rect, Colour colour) override;
     void FrameRect(const CRect& rect, Colour colour) override;
@@ -20,12 +24,12 @@ public:
     void PrintText(const CRect& rect, std::string_view utf8, TextAlign align) override;
 
 private:
-    QColor Drawn(Colour colour) const;
+    QColor Visible(const QColor& colour, double contrast) const;
 
     QPainter& painter_;
+    CRect cell_;
+    QColor ground_;
     QColor text_;
-    bool darkPalette_;
-    bool filled_ = false;
 };
 
 }  // namespace kvopt

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include "kvopt/qt/qt_desktop.h"
@@ -16,8 +17,13 @@ Peer::Peer(QtDesktop& desktop, CControl& model, QWidget& widget)
 }
 
 Peer::~Peer() {
+    LetGo();
+}
+
+void Peer::LetGo() {
     if (model_ != nullptr) {
         model_->RemoveListener(this);
+        model_ = nullptr;
     }
 }
 
@@ -54,7 +60,7 @@ void Peer::PushBlocked(WindowChange change) {
             widget_.setVisible(model_->IsVisible());
             break;
         case WindowChange::Focus:
-            widget_.setFocus(Qt::OtherFocusReason);
+            TakeFocus();
             break;
         default:
             Push(change);
@@ -64,14 +70,26 @@ void Peer::PushBlocked(WindowChange change) {
     pushing_ = outer;
 }
 
+void Peer::TakeFocus() {
+    widget_.setFocus(Qt::OtherFocusReason);
+}
+
 void Peer::User(const std::function<void()>& action) {
-    if (model_ != nullptr && !pushing_) {
-        desktop_.Guard(action);
+    if (model_ == nullptr || pushing_) {
+        return;
+    }
+    const QPointer<Peer> alive(this);
+    desktop_.Guard(action);
+    // The model has the last word: a refused gesture leaves the widget as it was.
+    for (const auto change : {WindowChange::Text, WindowChange::Selection, WindowChange::Check}) {
+        if (alive != nullptr) {
+            PushBlocked(change);
+        }
     }
 }
 
-bool Peer::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (event->type() == QEvent::FocusIn) {
+bool Peer::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &widget_ && event->type() == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
             reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason) {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QWidget>
+#include <functional>
 
 #include "kvopt/platform/control.h"
 #include "kvopt/platform/window_listener.h"
@@ -21,9 +22,23 @@ public:
     void OnWindowGone(CWnd& window) final;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    /// The peer of a widget, null for a widget without one of this kind.
+    template <class Kind>
+    static Kind* Of(const QWidget& widget) {
+        for (QObject* child : widget.children()) {
+            if (auto* peer = dynamic_cast<Kind*>(child)) {
+                return peer;
+            }
+        }
+        return nullptr;
+    }
+
     QWidget& Widget() const { return widget_; }
     /// Null when the model has died.
     CControl* Model() const { return model_; }
+
+    /// The widget is about to die: nothing that still comes from it reaches the model.
+    void LetGo();
 
     /// Shows everything the model holds; once, when all is connected.
     void ShowAll();
@@ -31,7 +46,10 @@ public:
 protected:
     /// Shows what changed; runs with the widget's signals blocked.
     virtual void Push(WindowChange change) = 0;
-    /// Runs something the user did, unless the model has died or a push is under way.
+    /// The program moved the keyboard here.
+    virtual void TakeFocus();
+    /// Runs something the user did, unless the model has died or a push is under way; then shows
+    /// what the model made of it.
     void User(const std::function<void()>& action);
 
     QtDesktop& desktop_;

@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -18,6 +17,7 @@
 #include "qt/combo_peer.h"
 #include "qt/edit_peer.h"
 #include "qt/label_peer.h"
+#include "qt/line_edit.h"
 #include "qt/list_peer.h"
 #include "qt/spin_peer.h"
 #include "qt/worksheet_peer.h"
@@ -37,7 +37,7 @@ QWidget* Bound(QtDesktop& desktop, CControl& control, Widget* widget) {
 QWidget* MakeWidget(QtDesktop& desktop, CControl& control, QWidget& parent) {
     switch (control.Kind()) {
         case ControlKind::Edit:
-            return Bound<EditPeer, CEdit>(desktop, control, new QLineEdit(&parent));
+            return Bound<EditPeer, CEdit>(desktop, control, new LineEdit(&parent));
         case ControlKind::ComboList:
         case ControlKind::ComboEdit:
             return Bound<ComboPeer, CComboBox>(desktop, control, new QComboBox(&parent));
@@ -46,8 +46,6 @@ QWidget* MakeWidget(QtDesktop& desktop, CControl& control, QWidget& parent) {
             return Bound<ListPeer, CListBox>(desktop, control, new QListWidget(&parent));
         case ControlKind::Push: {
             auto* button = new QPushButton(&parent);
-            // Return belongs to the frame's button.
-            button->setAutoDefault(false);
             return Bound<ButtonPeer, CButton>(desktop, control, button);
         }
         case ControlKind::Check:

@@ -5,8 +5,10 @@
 #include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 #include <exception>
+#include <map>
 #include <optional>
 
 #include "kvopt/platform/control.h"
@@ -14,6 +16,7 @@
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/qt/qt_player.h"
 #include "kvopt/qt/qt_window.h"
+#include "kvopt/text/exceptions.h"
 #include "qt/dialog_window.h"
 #include "qt/page_view.h"
 #include "qt/qt_text.h"
@@ -21,72 +24,102 @@
 
 namespace kvopt {
 
+/// A window, or a message box, in whose event loop the program is.
+struct QtDesktop::ModalRun {
+    QDialog& dialog;
+    ModalWindow* window;       ///< null for a message box
+    std::exception_ptr fault;  ///< what ended it
+};
+
 struct QtDesktop::State {
-    std::vector<ModalWindow*> windows;  ///< open modal runs, the innermost last
-    std::exception_ptr fault;           ///< what ended the innermost run
+    std::vector<ModalRun*> runs;  ///< the innermost last
     std::map<TimerId, std::unique_ptr<QTimer>> timers;
-    bool cursorShown = false;
+    bool waits = false;
     QObject context;  ///< queued calls die with it
 };
 
 QtDesktop::QtDesktop() : state_(std::make_unique<State>()) {
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+        throw InvalidArgument("QtDesktop: there is no QApplication");
+    }
     SetTranscript(&log_);
 }
 
 QtDesktop::~QtDesktop() {
-    if (state_->cursorShown) {
+    if (state_->waits) {
         QApplication::restoreOverrideCursor();
     }
 }
 
 QWidget* QtDesktop::FrontWindow() const {
-    return state_->windows.empty() ? nullptr : state_->windows.back();
+    for (auto run = state_->runs.rbegin(); run != state_->runs.rend(); ++run) {
+        if ((*run)->window != nullptr) {
+            return (*run)->window;
+        }
+    }
+    return nullptr;
 }
 
 QWidget* QtDesktop::ParentFor(CWnd* owner) const {
-    if (QWidget* front = FrontWindow()) {
-        return front;
+    if (!state_->runs.empty()) {
+        return &state_->runs.back()->dialog;
     }
     auto* window = owner != nullptr ? dynamic_cast<QtWindow*>(owner->GetTopLevelParent()) : nullptr;
     return window != nullptr ? &window->Widget() : nullptr;
 }
 
 void QtDesktop::Guard(const std::function<void()>& action) {
-    if (state_->windows.empty()) {
-        // A page in a frame of the host's own: what it throws is the host's.
-        action();
-        return;
-    }
     try {
         action();
     } catch (...) {
-        if (!state_->fault) {
-            state_->fault = std::current_exception();
+        if (state_->runs.empty()) {
+            OnFault(std::current_exception());
+            return;
         }
-        state_->windows.back()->done(0);
+        ModalRun& run = *state_->runs.back();
+        if (!run.fault) {
+            run.fault = std::current_exception();
+        }
+        run.dialog.done(QDialog::Rejected);
     }
 }
 
+void QtDesktop::OnFault(std::exception_ptr fault) {
+    try {
+        std::rethrow_exception(std::move(fault));
+    } catch (const std::exception& exception) {
+        qCritical("%s", exception.what());
+    } catch (...) {
+        qCritical("kvopt: a page threw something that is no std::exception");
+    }
+}
+
+int QtDesktop::Execute(ModalRun& run) {
+    state_->runs.push_back(&run);
+    const int result = run.dialog.exec();
+    state_->runs.pop_back();
+    if (!state_->runs.empty()) {
+        // Not every window manager gives the keyboard back to the window that opened this one.
+        state_->runs.back()->dialog.activateWindow();
+    }
+    if (run.fault) {
+        std::rethrow_exception(run.fault);
+    }
+    return result;
+}
+
 void QtDesktop::RunWindow(ModalWindow& window) {
-    const auto hasEnded = [this, &window] {
-        return state_->fault != nullptr || window.Scope().HasEnded();
-    };
+    ModalRun run{window, &window, nullptr};
+    const auto hasEnded = [&run] { return run.fault != nullptr || run.window->Scope().HasEnded(); };
     if (hasEnded()) {
         return;
     }
-    state_->windows.push_back(&window);
-    {
-        std::optional<StepPlayer::Run> played;
-        if (player_ != nullptr) {
-            played.emplace(player_->Steps(), window.Scope());
-            player_->Drive(window, hasEnded);
-        }
-        window.exec();
+    std::optional<StepPlayer::Run> played;
+    if (player_ != nullptr) {
+        played.emplace(player_->Steps(), window.Scope());
+        player_->Drive(window, hasEnded);
     }
-    state_->windows.pop_back();
-    if (state_->fault) {
-        std::rethrow_exception(std::exchange(state_->fault, nullptr));
-    }
+    Execute(run);
 }
 
 void QtDesktop::DoRunSheet(CPropertySheet& sheet) {
@@ -127,7 +160,8 @@ BoxAnswer QtDesktop::DoShowBox(const MessageBoxRequest& request) {
     if (player_ != nullptr) {
         player_->AnswerBox(box, request);
     }
-    switch (box.exec()) {
+    ModalRun run{box, nullptr, nullptr};
+    switch (Execute(run)) {
         case QMessageBox::Yes:
             return BoxAnswer::Yes;
         case QMessageBox::No:
@@ -142,6 +176,7 @@ void QtDesktop::DoStartTimer(TimerId id, unsigned milliseconds, std::function<vo
         player_->Clock().Start(id, milliseconds, std::move(callback));
         return;
     }
+    DoStopTimer(id);
     auto timer = std::make_unique<QTimer>();
     QObject::connect(timer.get(), &QTimer::timeout, &state_->context,
                      [this, callback = std::move(callback)] { Guard(callback); });
@@ -156,7 +191,8 @@ void QtDesktop::DoStopTimer(TimerId id) {
     }
     const auto found = state_->timers.find(id);
     if (found != state_->timers.end()) {
-        // A timer is stopped from within its own callback: it must not die there.
+        // A timer may be stopped or started anew from within its own callback: it must not die
+        // there.
         found->second->stop();
         found->second.release()->deleteLater();
         state_->timers.erase(found);
@@ -164,14 +200,16 @@ void QtDesktop::DoStopTimer(TimerId id) {
 }
 
 void QtDesktop::DoSetCursor(Cursor cursor) {
-    if (state_->cursorShown) {
-        QApplication::restoreOverrideCursor();
-        state_->cursorShown = false;
+    // The other cursors belong to the worksheet that the mouse is over, which shows them itself.
+    const bool waits = cursor == Cursor::Wait;
+    if (waits == state_->waits) {
+        return;
     }
-    if (cursor != Cursor::Arrow) {
-        QApplication::setOverrideCursor(cursor == Cursor::Wait ? Qt::WaitCursor
-                                                               : Qt::SizeHorCursor);
-        state_->cursorShown = true;
+    state_->waits = waits;
+    if (waits) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
     }
 }
 
@@ -204,6 +242,22 @@ int QtDesktop::DoShowPopupMenu(CWnd& owner, CPoint point, const std::vector<Popu
 void QtDesktop::OnPosted() {
     QMetaObject::invokeMethod(
         &state_->context, [this] { Guard([this] { RunPostedSteps(); }); }, Qt::QueuedConnection);
+}
+
+void QtDesktop::SetHelpViewer(std::function<void(unsigned)> viewer) {
+    helpViewer_ = std::move(viewer);
+}
+
+void QtDesktop::DoShowHelp(unsigned topic) {
+    if (helpViewer_) {
+        helpViewer_(topic);
+    }
+}
+
+int QtDesktop::DotsPerInch() const {
+    // In the pixels that widgets count in: a scale factor of the screen is not in it.
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? qRound(screen->logicalDotsPerInch()) : Desktop::DotsPerInch();
 }
 
 std::wstring QtDesktop::ClipboardText() const {

@@ -1,8 +1,5 @@
 #include "qt/qt_gestures.h"
 
-#include <QtTest/qtestkeyboard.h>
-#include <QtTest/qtestmouse.h>
-
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -13,6 +10,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableView>
+#include <QTest>
 #include <QToolButton>
 
 #include "kvopt/platform/controls.h"
@@ -44,13 +42,22 @@ QLineEdit* FieldOf(QWidget& widget) {
     return qobject_cast<QLineEdit*>(&widget);
 }
 
-/// Opens the list of a combo box and takes an entry with the keyboard.
-void PickEntry(QComboBox& combo, int index) {
-    combo.setFocus(Qt::MouseFocusReason);
-    combo.showPopup();
-    QAbstractItemView* view = combo.view();
-    view->setCurrentIndex(combo.model()->index(index, combo.modelColumn(), combo.rootModelIndex()));
-    QTest::keyClick(view, Qt::Key_Return);
+/// Takes an entry of an open list with the mouse.
+bool PickEntry(QComboBox& combo, int index) {
+    QAbstractItemView* list = combo.view();
+    if (!list->isVisible()) {
+        return false;
+    }
+    const QModelIndex entry =
+        combo.model()->index(index, combo.modelColumn(), combo.rootModelIndex());
+    list->scrollTo(entry);
+    const QPoint place = list->visualRect(entry).center();
+    // A list that the pointer never entered takes the release of the press that opened it.
+    QMouseEvent enter(QEvent::MouseMove, place, list->viewport()->mapToGlobal(place), Qt::NoButton,
+                      Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(list->viewport(), &enter);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+    return !list->isVisible();
 }
 
 Qt::Key KeyOf(const KeyStroke& key) {
@@ -68,6 +75,12 @@ Qt::Key KeyOf(const KeyStroke& key) {
         default:
             return static_cast<Qt::Key>(key.key);
     }
+}
+
+QString TextOf(const KeyStroke& key) {
+    const bool isCharacter = key.key >= '0' && key.key <= 'Z' && !key.control && !key.alt;
+    const QString upper(QChar(static_cast<char16_t>(key.key)));
+    return !isCharacter ? QString() : key.shift ? upper : upper.toLower();
 }
 
 Qt::KeyboardModifiers ModifiersOf(const KeyStroke& key) {
@@ -96,7 +109,7 @@ QWidget* QtGestures::Reach(const CControl& control) const {
 
 WorksheetPeer* QtGestures::ReachWorksheet(const VirtualWorksheet& worksheet) const {
     QWidget* table = Reach(worksheet);
-    return table != nullptr ? WorksheetPeer::Of(table) : nullptr;
+    return table != nullptr ? Peer::Of<WorksheetPeer>(*table) : nullptr;
 }
 
 bool QtGestures::Focus(CControl& control) {
@@ -157,8 +170,9 @@ bool QtGestures::Pick(CComboBox& combo, int index) {
     if (widget == nullptr) {
         return false;
     }
-    PickEntry(*widget, index);
-    return true;
+    widget->setFocus(Qt::TabFocusReason);
+    widget->showPopup();
+    return PickEntry(*widget, index);
 }
 
 bool QtGestures::Mark(CListBox& list, const std::vector<int>& indices) {
@@ -175,7 +189,7 @@ bool QtGestures::Mark(CListBox& list, const std::vector<int>& indices) {
         for (const int index : list.GetSelItems()) {
             click(index, Qt::ControlModifier);
         }
-        return true;
+        return Focus(list);
     }
     for (const int index : indices) {
         click(index, index == indices.front() ? Qt::NoModifier : Qt::ControlModifier);
@@ -244,36 +258,54 @@ bool QtGestures::PressKey(const StepScope& scope, const KeyStroke& key) {
     if (window == nullptr || dialog == nullptr) {
         return false;
     }
-    QWidget* target = window;
-    if (const CControl* focused = dialog->GetFocusControl()) {
-        if (QWidget* widget = Reach(*focused)) {
-            WorksheetPeer* worksheet = WorksheetPeer::Of(widget);
-            target = worksheet != nullptr && worksheet->Editor() != nullptr ? worksheet->Editor()
-                                                                            : widget;
-        }
-    }
+    QWidget* target = window->focusWidget() != nullptr ? window->focusWidget() : window;
     if (key == KeyStroke{kKeyReturn} || key == KeyStroke{kKeyEscape}) {
         player_.KeepPage();
     }
-    QTest::keyClick(target, KeyOf(key), ModifiersOf(key));
-    return true;
+    QKeyEvent press(QEvent::KeyPress, KeyOf(key), ModifiersOf(key), TextOf(key));
+    QApplication::sendEvent(target, &press);
+    return press.isAccepted();
 }
 
-bool QtGestures::ClickCell(WorksheetPeer& peer, CPoint cell, Qt::KeyboardModifiers modifiers) {
-    const CRect rect = peer.CellRect(cell);
-    const QPoint middle(rect.left + rect.Width() / 2, rect.top + rect.Height() / 2);
-    QTest::mouseClick(peer.Table().viewport(), Qt::LeftButton, modifiers, middle);
-    return true;
+void QtGestures::ShowCell(const WorksheetPeer& peer, CPoint cell) {
+    QTableView& table = peer.Table();
+    table.scrollTo(table.model()->index(cell.y - 1, cell.x - 1));
+}
+
+/// By keyboard, as one gets to any cell without pressing on what it shows.
+bool QtGestures::GoToCell(WorksheetPeer& peer, CPoint cell) {
+    QTableView& table = peer.Table();
+    table.setFocus(Qt::TabFocusReason);
+    if (!table.currentIndex().isValid()) {
+        QTest::keyClick(&table, Qt::Key_Home, Qt::ControlModifier);
+    }
+    const auto walk = [&](int wanted, Qt::Key forth, Qt::Key back, auto place) {
+        for (int last = -1; place() != wanted && place() != last;) {
+            last = place();
+            QTest::keyClick(&table, last < wanted ? forth : back);
+        }
+    };
+    walk(cell.y - 1, Qt::Key_Down, Qt::Key_Up, [&] { return table.currentIndex().row(); });
+    walk(cell.x - 1, Qt::Key_Right, Qt::Key_Left, [&] { return table.currentIndex().column(); });
+    const CellRange& selection = peer.Worksheet().Selection();
+    if (selection != CellRange{cell.x, cell.y, cell.x, cell.y}) {
+        // The keyboard was on the cell already.
+        return peer.Worksheet().UserSelectCell(cell);
+    }
+    return peer.Worksheet().Dialog().GetFocusControl() == &peer.Worksheet() ||
+           peer.Worksheet().UserFocus();
 }
 
 bool QtGestures::SelectCells(VirtualWorksheet& worksheet, const CellRange& cells) {
     WorksheetPeer* peer = ReachWorksheet(worksheet);
-    if (peer == nullptr) {
+    if (peer == nullptr || !GoToCell(*peer, {cells.firstColumn, cells.firstRow})) {
         return false;
     }
-    ClickCell(*peer, {cells.firstColumn, cells.firstRow}, Qt::NoModifier);
-    if (cells.firstColumn != cells.lastColumn || cells.firstRow != cells.lastRow) {
-        ClickCell(*peer, {cells.lastColumn, cells.lastRow}, Qt::ShiftModifier);
+    for (int row = cells.firstRow; row < cells.lastRow; ++row) {
+        QTest::keyClick(&peer->Table(), Qt::Key_Down, Qt::ShiftModifier);
+    }
+    for (int column = cells.firstColumn; column < cells.lastColumn; ++column) {
+        QTest::keyClick(&peer->Table(), Qt::Key_Right, Qt::ShiftModifier);
     }
     return worksheet.Selection() == cells;
 }
@@ -281,10 +313,9 @@ bool QtGestures::SelectCells(VirtualWorksheet& worksheet, const CellRange& cells
 bool QtGestures::TypeIntoCell(VirtualWorksheet& worksheet, CPoint cell, const std::string& text,
                               bool commit) {
     WorksheetPeer* peer = ReachWorksheet(worksheet);
-    if (peer == nullptr) {
+    if (peer == nullptr || !GoToCell(*peer, cell)) {
         return false;
     }
-    ClickCell(*peer, cell, Qt::NoModifier);
     QTest::keyClick(&peer->Table(), Qt::Key_F2);
     if (peer->Editor() == nullptr || !TypeInto(*peer->Editor(), ToQt(std::string_view(text)))) {
         return false;
@@ -305,13 +336,16 @@ bool QtGestures::PasteIntoCells(VirtualWorksheet& worksheet) {
 }
 
 bool QtGestures::PickInCell(VirtualWorksheet& worksheet, CPoint cell, int entry) {
-    const WorksheetPeer* peer = ReachWorksheet(worksheet);
-    QComboBox* combo = peer != nullptr ? peer->ComboOf(cell) : nullptr;
+    WorksheetPeer* peer = ReachWorksheet(worksheet);
+    if (peer == nullptr || !GoToCell(*peer, cell)) {
+        return false;
+    }
+    QComboBox* combo = peer->ComboOf(cell);
     if (combo == nullptr || !combo->isVisible() || !combo->isEnabled()) {
         return false;
     }
-    PickEntry(*combo, entry);
-    return true;
+    QTest::keyClick(&peer->Table(), Qt::Key_F2);
+    return PickEntry(*combo, entry);
 }
 
 bool QtGestures::Mouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel, int type,
@@ -320,14 +354,16 @@ bool QtGestures::Mouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel, i
     if (peer == nullptr) {
         return false;
     }
+    ShowCell(*peer, cell);
     const CRect rect = peer->CellRect(cell);
     QWidget* viewport = peer->Table().viewport();
     const QPointF place(rect.left + pixel.x, rect.top + pixel.y);
     held_.setFlag(button, type == QEvent::MouseButtonPress);
     QMouseEvent event(static_cast<QEvent::Type>(type), place, viewport->mapToGlobal(place), button,
                       held_, Qt::NoModifier);
+    const QPointer<WorksheetPeer> alive(peer);
     QApplication::sendEvent(viewport, &event);
-    return true;
+    return alive == nullptr || peer->MouseWasTaken();
 }
 
 bool QtGestures::MoveMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) {
@@ -343,9 +379,17 @@ bool QtGestures::ReleaseMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint p
 }
 
 bool QtGestures::ContextMenu(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) {
-    const bool pressed = Mouse(worksheet, cell, pixel, QEvent::MouseButtonPress, Qt::RightButton);
-    held_ = Qt::NoButton;
-    return pressed;
+    WorksheetPeer* peer = ReachWorksheet(worksheet);
+    if (peer == nullptr) {
+        return false;
+    }
+    ShowCell(*peer, cell);
+    const CRect rect = peer->CellRect(cell);
+    const QPoint place(rect.left + pixel.x, rect.top + pixel.y);
+    QWidget* viewport = peer->Table().viewport();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, viewport->mapToGlobal(place));
+    QApplication::sendEvent(viewport, &event);
+    return true;
 }
 
 bool QtGestures::Wait(unsigned milliseconds) {

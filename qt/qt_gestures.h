@@ -49,7 +49,8 @@ private:
     QWidget* Reach(const CControl& control) const;
     WorksheetPeer* ReachWorksheet(const VirtualWorksheet& worksheet) const;
     bool TypeInto(QLineEdit& edit, const QString& text);
-    bool ClickCell(WorksheetPeer& peer, CPoint cell, Qt::KeyboardModifiers modifiers);
+    bool GoToCell(WorksheetPeer& peer, CPoint cell);
+    static void ShowCell(const WorksheetPeer& peer, CPoint cell);
     bool Mouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel, int type,
                Qt::MouseButton button);
 

@@ -1,12 +1,10 @@
 #include "kvopt/qt/qt_player.h"
 
-#include <QtTest/qtestkeyboard.h>
-#include <QtTest/qtestmouse.h>
-
 #include <QAbstractButton>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QTest>
 #include <QTimer>
 
 #include "kvopt/platform/property_page.h"

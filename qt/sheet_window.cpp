@@ -12,9 +12,9 @@
 #include "kvopt/platform/property_page.h"
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/qt/qt_desktop.h"
-#include "qt/frame_texts.h"
 #include "qt/page_view.h"
 #include "qt/qt_text.h"
+#include "resources/qt_texts.h"
 
 namespace kvopt {
 
@@ -74,6 +74,7 @@ void SheetWindow::AddTabs(QVBoxLayout& column) {
 
 void SheetWindow::AddFrameButtons(QVBoxLayout& column) {
     auto* row = new QHBoxLayout;
+    row->addWidget(AddHelpButton());
     row->addStretch(1);
     const auto add = [&](FrameButton button, const PlainText& text) {
         row->addWidget(AddButton(button, ToQt(text.Wide())));
@@ -126,8 +127,12 @@ void SheetWindow::ShowPage() {
         const QSignalBlocker blocker(tabs_);
         tabs_->setCurrentIndex(sheet_.GetActiveIndex());
     }
+    ShowHelpButton();
     resize(size().expandedTo(sizeHint()));
-    view->TakeFocus();
+    // Who walks along the tabs by keyboard stays there.
+    if (tabs_ == nullptr || !tabs_->hasFocus() || page->GetFocusControl() != nullptr) {
+        view->TakeFocus();
+    }
 }
 
 void SheetWindow::ShowButtons() {

@@ -2,8 +2,6 @@
 
 #include "qt/peer.h"
 
-class QToolButton;
-
 namespace kvopt {
 
 class CSpinButtonCtrl;
@@ -13,16 +11,18 @@ class SpinPeer : public Peer {
 public:
     SpinPeer(QtDesktop& desktop, CSpinButtonCtrl& model, QWidget& arrows);
 
-    QToolButton& Up() const { return up_; }
-    QToolButton& Down() const { return down_; }
+    /// The edit beside the arrows, whose Up and Down keys do the same.
+    void SetBuddy(QWidget& edit);
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void Push(WindowChange change) override;
 
 private:
+    void Step(int delta);
+
     CSpinButtonCtrl& model_;
-    QToolButton& up_;
-    QToolButton& down_;
+    QWidget* buddy_ = nullptr;
 };
 
 }  // namespace kvopt

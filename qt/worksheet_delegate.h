@@ -4,19 +4,18 @@
 
 namespace kvopt {
 
-class VirtualWorksheet;
+class WorksheetModel;
 
 /// Draws the cells of a worksheet through its content's renderers.
 class WorksheetDelegate : public QStyledItemDelegate {
 public:
-    WorksheetDelegate(VirtualWorksheet& worksheet, QObject* parent);
-    void Forget() { worksheet_ = nullptr; }
+    WorksheetDelegate(const WorksheetModel& cells, QObject* parent);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
 private:
-    VirtualWorksheet* worksheet_;
+    const WorksheetModel& cells_;
 };
 
 }  // namespace kvopt

@@ -1,16 +1,20 @@
 #include "qt/worksheet_peer.h"
 
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTableView>
 #include <QToolTip>
 #include <algorithm>
 
+#include "kvopt/platform/desktop.h"
+#include "kvopt/platform/keys.h"
 #include "kvopt/platform/virtual_worksheet.h"
+#include "qt/cell_editors.h"
 #include "qt/qt_text.h"
 #include "qt/worksheet_delegate.h"
 #include "qt/worksheet_model.h"
@@ -20,9 +24,14 @@ namespace kvopt {
 namespace {
 
 constexpr int kNameColumn = 1;
+/// Pixels that a row is higher than its text.
+constexpr int kRowPadding = 4;
+constexpr int kRowsAtLeast = 4;
+constexpr int kWidestColumn = 300;
 
-CPoint ToPoint(QPoint point) {
-    return {point.x(), point.y()};
+bool IsIn(const CellRange& range, CPoint cell) {
+    return cell.x >= range.firstColumn && cell.x <= range.lastColumn && cell.y >= range.firstRow &&
+           cell.y <= range.lastRow;
 }
 
 }  // namespace
@@ -31,251 +40,214 @@ WorksheetPeer::WorksheetPeer(QtDesktop& desktop, VirtualWorksheet& model, QTable
     : Peer(desktop, model, table),
       model_(model),
       table_(table),
-      viewport_(table.viewport()),
-      cells_(*new WorksheetModel(model, &table)),
-      delegate_(*new WorksheetDelegate(model, &table)) {
+      cells_(*new WorksheetModel(model, &table)) {
     table.setModel(&cells_);
-    table.setItemDelegate(&delegate_);
+    table.setItemDelegate(new WorksheetDelegate(cells_, &table));
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table.setSelectionMode(QAbstractItemView::ContiguousSelection);
     table.setTabKeyNavigation(false);
-    table.verticalHeader()->hide();
+    table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.horizontalHeader()->setHighlightSections(false);
-    table.setMouseTracking(true);
     table.viewport()->setMouseTracking(true);
     table.viewport()->installEventFilter(this);
-    table.setMinimumHeight(table.fontMetrics().height() * 8);
+    editors_ = std::make_unique<CellEditors>(
+        model, table, cells_, [this](const std::function<void()>& action) { User(action); });
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { TakeSelection(); });
 }
 
-WorksheetPeer* WorksheetPeer::Of(QWidget* table) {
-    for (QObject* child : table->children()) {
-        if (auto* peer = dynamic_cast<WorksheetPeer*>(child)) {
-            return peer;
-        }
-    }
-    return nullptr;
-}
+WorksheetPeer::~WorksheetPeer() = default;
 
-CPoint WorksheetPeer::CellAt(QPoint pixel) const {
-    const QModelIndex index = table_.indexAt(pixel);
-    return index.isValid() ? CPoint{index.column() + 1, index.row() + 1} : CPoint{};
-}
-
-CRect WorksheetPeer::CellRect(CPoint cell) const {
-    const QRect rect = table_.visualRect(cells_.index(cell.y - 1, cell.x - 1));
-    return {rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1};
+const BaseWorksheetInterface* WorksheetPeer::Content() const {
+    return Model() != nullptr ? model_.Content() : nullptr;
 }
 
 QComboBox* WorksheetPeer::ComboOf(CPoint cell) const {
-    return qobject_cast<QComboBox*>(table_.indexWidget(cells_.index(cell.y - 1, cell.x - 1)));
+    return editors_->ComboOf(cell);
+}
+
+QLineEdit* WorksheetPeer::Editor() const {
+    return editors_->Editor();
+}
+
+CRect WorksheetPeer::CellRect(CPoint cell) const {
+    // The lines between cells belong to the cells on their left and above.
+    const QModelIndex index = cells_.IndexOf(cell);
+    const int left = table_.columnViewportPosition(index.column());
+    const int top = table_.rowViewportPosition(index.row());
+    return {left, top, left + table_.columnWidth(index.column()),
+            top + table_.rowHeight(index.row())};
+}
+
+WorksheetPeer::Pointer WorksheetPeer::PointerAt(QPoint place) const {
+    const QModelIndex index = table_.indexAt(place);
+    if (!index.isValid()) {
+        const QRect all = table_.viewport()->rect();
+        return {{}, {place.x(), place.y()}, {0, 0, all.width(), all.height()}};
+    }
+    const CPoint cell{index.column() + 1, index.row() + 1};
+    const CRect rect = CellRect(cell);
+    return {
+        cell, {place.x() - rect.left, place.y() - rect.top}, {0, 0, rect.Width(), rect.Height()}};
+}
+
+bool WorksheetPeer::HasSlider(CPoint cell) const {
+    const VWSRenderer* renderer = Content()->GetCellRenderer(cell.x, cell.y);
+    return renderer != nullptr && renderer->Slider(*Content(), cell.x, cell.y).has_value();
 }
 
 void WorksheetPeer::Push(WindowChange change) {
     if (change == WindowChange::Cells) {
         cells_.Refresh();
-        ShowColumns();
-        ShowCombos();
-        ShowEditor();
+        if (Content() != nullptr) {
+            ShowColumns();
+            editors_->Show();
+        }
+    }
+    if (change == WindowChange::Cells || change == WindowChange::Selection) {
         ShowSelection();
         table_.viewport()->update();
-    } else if (change == WindowChange::Selection) {
-        ShowSelection();
     }
 }
 
 void WorksheetPeer::ShowColumns() {
-    const BaseWorksheetInterface* content = model_.Content();
-    if (content == nullptr) {
+    const BaseWorksheetInterface& content = *Content();
+    std::vector<int> widths;
+    for (int column = 0; column <= content.ColumnCount(); ++column) {
+        widths.push_back(content.ColumnWidth(column));
+    }
+    widths.push_back(content.RowCount());
+    if (widths == widthsShown_) {
         return;
     }
-    const int rowHeight = std::max(content->DefaultRowHeight(), table_.fontMetrics().height() + 10);
+    widthsShown_ = widths;
+    const int rowHeight =
+        std::max(content.DefaultRowHeight(), table_.fontMetrics().height() + kRowPadding);
+    table_.verticalHeader()->setMinimumSectionSize(rowHeight);
     table_.verticalHeader()->setDefaultSectionSize(rowHeight);
-    if (widthsShown_) {
-        return;
-    }
-    widthsShown_ = true;
+    table_.verticalHeader()->setVisible(content.ColumnWidth(0) > 0);
     QHeaderView& header = *table_.horizontalHeader();
-    for (int column = 1; column <= content->ColumnCount(); ++column) {
-        // The names take what is left; a slider is exactly as wide as the content says, since
-        // values are told in its pixels.
-        header.setSectionResizeMode(
-            column - 1, column == kNameColumn ? QHeaderView::Stretch : QHeaderView::Interactive);
-        if (column != kNameColumn) {
-            // The grid line takes one pixel of the section.
-            const int line = table_.showGrid() ? 1 : 0;
-            header.resizeSection(column - 1, content->ColumnWidth(column) + line);
+    const QAbstractItemView& texts = table_;
+    int needed = 0;
+    for (int column = 1; column <= content.ColumnCount(); ++column) {
+        int width = content.ColumnWidth(column);
+        bool slides = false;
+        for (int row = 1; row <= content.RowCount() && !slides; ++row) {
+            slides = HasSlider({column, row});
         }
-    }
-}
-
-void WorksheetPeer::ShowCombos() {
-    const BaseWorksheetInterface* content = model_.Content();
-    for (int row = 1; row <= cells_.rowCount(); ++row) {
-        for (int column = 1; column <= cells_.columnCount(); ++column) {
-            const QModelIndex index = cells_.index(row - 1, column - 1);
-            if (content->GetFieldType(column, row) != FieldDef::Combo) {
-                if (table_.indexWidget(index) != nullptr) {
-                    table_.setIndexWidget(index, nullptr);
-                }
-                continue;
-            }
-            QComboBox* combo = ComboOf({column, row});
-            if (combo == nullptr) {
-                combo = new QComboBox;
-                table_.setIndexWidget(index, combo);
-                const CPoint cell{column, row};
-                connect(combo, &QComboBox::activated, this,
-                        [this, cell](int entry) { User([&] { model_.UserPick(cell, entry); }); });
-            }
-            const QSignalBlocker blocker(combo);
-            QStringList entries;
-            for (const std::string& entry : content->GetFieldDef(column, row)->ComboSettings()) {
-                entries << ToQt(std::string_view(entry));
-            }
-            QStringList shown;
-            for (int entry = 0; entry < combo->count(); ++entry) {
-                shown << combo->itemText(entry);
-            }
-            if (shown != entries) {
-                combo->clear();
-                combo->addItems(entries);
-            }
-            combo->setCurrentIndex(
-                static_cast<int>(entries.indexOf(ToQt(content->GetCellText(column, row)))));
-            combo->setAccessibleName(ToQt(content->GetCellText(kNameColumn, row)));
+        // A slider is exactly as wide as the content says, since its pixels are values. The names
+        // take what is left.
+        if (!slides) {
+            width = std::max(width, std::min(texts.sizeHintForColumn(column - 1), kWidestColumn));
         }
+        header.setSectionResizeMode(column - 1, slides                  ? QHeaderView::Fixed
+                                                : column == kNameColumn ? QHeaderView::Stretch
+                                                                        : QHeaderView::Interactive);
+        header.resizeSection(column - 1, width);
+        needed += width;
     }
-}
-
-void WorksheetPeer::ShowEditor() {
-    const std::optional<CPoint> cell = model_.EditedCell();
-    if (!cell) {
-        if (editor_ != nullptr) {
-            QLineEdit* closing = editor_;
-            editor_ = nullptr;
-            closing->removeEventFilter(this);
-            const bool hadFocus = closing->hasFocus();
-            closing->hide();
-            closing->deleteLater();
-            if (hadFocus) {
-                table_.setFocus(Qt::OtherFocusReason);
-            }
-        }
-        return;
-    }
-    if (editor_ != nullptr) {
-        return;
-    }
-    editor_ = new QLineEdit(ToQt(model_.EditorText()), table_.viewport());
-    editor_->setAccessibleName(ToQt(model_.Content()->GetCellText(kNameColumn, cell->y)));
-    editor_->setGeometry(table_.visualRect(cells_.index(cell->y - 1, cell->x - 1)));
-    editor_->installEventFilter(this);
-    connect(editor_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { User([&] { model_.UserEdit(ToUtf8(text)); }); });
-    editor_->show();
-    editor_->setFocus(Qt::OtherFocusReason);
-    editor_->selectAll();
+    const int frame = 2 * table_.frameWidth();
+    table_.setMinimumSize(needed + table_.verticalScrollBar()->sizeHint().width() + frame,
+                          header.sizeHint().height() + kRowsAtLeast * rowHeight + frame);
 }
 
 void WorksheetPeer::ShowSelection() {
     const CellRange& range = model_.Selection();
     QItemSelection wanted;
     if (!range.IsEmpty() && range.lastColumn >= 1 && range.lastRow >= 1) {
-        wanted.select(
-            cells_.index(std::max(range.firstRow, 1) - 1, std::max(range.firstColumn, 1) - 1),
-            cells_.index(range.lastRow - 1, range.lastColumn - 1));
+        wanted.select(cells_.IndexOf({std::max(range.firstColumn, 1), std::max(range.firstRow, 1)}),
+                      cells_.IndexOf({range.lastColumn, range.lastRow}));
     }
-    const QSignalBlocker blocker(table_.selectionModel());
-    table_.selectionModel()->select(wanted, QItemSelectionModel::ClearAndSelect);
-    if (!wanted.isEmpty()) {
-        table_.selectionModel()->setCurrentIndex(wanted.first().topLeft(),
-                                                 QItemSelectionModel::NoUpdate);
+    QItemSelectionModel& selection = *table_.selectionModel();
+    if (selection.selection() != wanted) {
+        selection.select(wanted, QItemSelectionModel::ClearAndSelect);
     }
-    table_.viewport()->update();
+    // The moving end of marked cells stays where it is.
+    if (!wanted.isEmpty() && !wanted.contains(selection.currentIndex())) {
+        selection.setCurrentIndex(wanted.first().topLeft(), QItemSelectionModel::NoUpdate);
+    }
 }
 
 void WorksheetPeer::TakeSelection() {
-    const QModelIndexList marked = table_.selectionModel()->selectedIndexes();
+    const QItemSelection marked = table_.selectionModel()->selection();
     if (marked.isEmpty()) {
         return;
     }
-    CellRange range{marked.first().column() + 1, marked.first().row() + 1,
-                    marked.first().column() + 1, marked.first().row() + 1};
-    for (const QModelIndex& index : marked) {
-        range.firstColumn = std::min(range.firstColumn, index.column() + 1);
-        range.firstRow = std::min(range.firstRow, index.row() + 1);
-        range.lastColumn = std::max(range.lastColumn, index.column() + 1);
-        range.lastRow = std::max(range.lastRow, index.row() + 1);
-    }
+    const QItemSelectionRange& block = marked.first();
+    const CellRange range{block.left() + 1, block.top() + 1, block.right() + 1, block.bottom() + 1};
     User([&] {
-        if (model_.UserSelectCell({range.firstColumn, range.firstRow})) {
+        if (range.firstColumn == range.lastColumn && range.firstRow == range.lastRow) {
+            model_.UserSelectCell({range.firstColumn, range.firstRow});
+        } else if (model_.UserFocus()) {
             model_.SetSelection(range);
         }
     });
 }
 
+void WorksheetPeer::MarkTo(CPoint cell) {
+    User([&] {
+        if (model_.UserFocus()) {
+            model_.SetSelection({std::min(anchor_.x, cell.x), std::min(anchor_.y, cell.y),
+                                 std::max(anchor_.x, cell.x), std::max(anchor_.y, cell.y)});
+        }
+    });
+}
+
 bool WorksheetPeer::eventFilter(QObject* watched, QEvent* event) {
-    if (Model() == nullptr) {
+    if (Content() == nullptr) {
         return false;
     }
-    if (editor_ != nullptr && watched == editor_) {
-        return FilterEditor(event);
-    }
-    if (watched == viewport_) {
+    if (watched == table_.viewport()) {
         return FilterViewport(event);
     }
-    return FilterTableKey(event) || Peer::eventFilter(watched, event);
-}
-
-bool WorksheetPeer::FilterEditor(QEvent* event) {
-    if (event->type() == QEvent::FocusOut) {
-        User([&] { model_.UserCommit(); });
-        return false;
-    }
-    if (event->type() != QEvent::KeyPress) {
-        return false;
-    }
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            // Never reaches the frame's button.
-            User([&] { model_.UserCommit(); });
-            return true;
-        case Qt::Key_Escape:
-            User([&] { model_.UserAbandon(); });
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool WorksheetPeer::FilterTableKey(QEvent* event) {
-    if (event->type() != QEvent::KeyPress) {
-        return false;
-    }
-    auto* key = static_cast<QKeyEvent*>(event);
-    const CellRange& range = model_.Selection();
-    const CPoint cell{range.firstColumn, range.firstRow};
-    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+    if (watched == &table_ && event->type() == QEvent::KeyPress &&
+        FilterKey(static_cast<QKeyEvent&>(*event))) {
         return true;
     }
-    const QString typed = key->text();
-    const bool types = !typed.isEmpty() && typed.front().isPrint() &&
-                       (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
-    if (range.IsEmpty() || (key->key() != Qt::Key_F2 && !types)) {
-        return false;
+    return Peer::eventFilter(watched, event);
+}
+
+bool WorksheetPeer::FilterKey(const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
+        // Never reaches the frame's button.
+        return true;
+    }
+    for (const auto& [sequence, command] :
+         {std::pair(QKeySequence::Copy, kCommandCopy),
+          std::pair(QKeySequence::Paste, kCommandPaste),
+          std::pair(QKeySequence::SelectAll, kCommandSelectAll)}) {
+        if (key.matches(sequence)) {
+            const int chosen = command;
+            User([&] { model_.UserCommand(chosen); });
+            return true;
+        }
+    }
+    const QModelIndex current = table_.currentIndex();
+    const QString typed = key.text();
+    const bool types = !typed.isEmpty() && typed.front().isPrint() && !typed.front().isSpace() &&
+                       (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    const bool opens = key.key() == Qt::Key_F2 || key.key() == Qt::Key_Space ||
+                       (key.key() == Qt::Key_Down && (key.modifiers() & Qt::AltModifier) != 0);
+    return current.isValid() && (types || opens) &&
+           OpenEditor({current.column() + 1, current.row() + 1}, types ? typed : QString());
+}
+
+bool WorksheetPeer::OpenEditor(CPoint cell, const QString& typed) {
+    if (HasSlider(cell)) {
+        // The keyboard's way to a slider.
+        --cell.x;
     }
     if (QComboBox* combo = ComboOf(cell)) {
-        combo->setFocus(Qt::ShortcutFocusReason);
+        combo->setFocus(Qt::OtherFocusReason);
         combo->showPopup();
         return true;
     }
     bool opened = false;
     User([&] { opened = model_.UserBeginEdit(cell); });
-    if (opened && types && editor_ != nullptr) {
-        editor_->setText(typed);
+    if (opened && !typed.isEmpty() && Editor() != nullptr) {
+        Editor()->setText(typed);
         User([&] { model_.UserEdit(ToUtf8(typed)); });
     }
     return opened;
@@ -283,70 +255,106 @@ bool WorksheetPeer::FilterTableKey(QEvent* event) {
 
 bool WorksheetPeer::FilterViewport(QEvent* event) {
     switch (event->type()) {
-        case QEvent::MouseMove: {
-            const QPoint pixel = static_cast<QMouseEvent*>(event)->position().toPoint();
-            const CPoint cell = CellAt(pixel);
-            // Told from the cell's own corner, so that a place in the cell is the same number
-            // wherever the cell stands.
-            const CRect place = cell == CPoint{} ? CRect{} : CellRect(cell);
-            const CPoint inCell{pixel.x() - place.left, pixel.y() - place.top};
-            bool taken = false;
-            User([&] {
-                taken = model_.UserMouseMove(inCell, cell, {0, 0, place.Width(), place.Height()});
-            });
-            return taken;
-        }
-        case QEvent::MouseButtonPress: {
-            auto* mouse = static_cast<QMouseEvent*>(event);
-            const CPoint pixel = ToPoint(mouse->position().toPoint());
-            const CPoint cell = CellAt(mouse->position().toPoint());
-            if (mouse->button() == Qt::RightButton) {
-                const CellRange& marked = model_.Selection();
-                const bool isMarked = cell.x >= marked.firstColumn && cell.x <= marked.lastColumn &&
-                                      cell.y >= marked.firstRow && cell.y <= marked.lastRow;
-                User([&] {
-                    if (isMarked || model_.UserSelectCell(cell)) {
-                        model_.UserContextMenu(pixel);
-                    }
-                });
-                return true;
+        case QEvent::MouseMove:
+            MoveMouse(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseButtonPress:
+            PressMouse(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseButtonRelease:
+            ReleaseMouse(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseButtonDblClick:
+            if (!OpenEditor(PointerAt(static_cast<QMouseEvent*>(event)->position().toPoint()).cell,
+                            {})) {
+                PressMouse(static_cast<QMouseEvent&>(*event));
             }
-            table_.setFocus(Qt::MouseFocusReason);
-            User([&] { model_.UserPress(pixel, cell); });
-            // A drag over the table marks cells, unless it moves a slider.
-            return cell != CPoint{} && model_.Content() != nullptr &&
-                   model_.Content()
-                       ->GetCellRenderer(cell.x, cell.y)
-                       ->Slider(*model_.Content(), cell.x, cell.y)
-                       .has_value();
-        }
-        case QEvent::MouseButtonRelease: {
-            const QPoint pixel = static_cast<QMouseEvent*>(event)->position().toPoint();
-            bool taken = false;
-            User([&] { taken = model_.UserRelease(ToPoint(pixel), CellAt(pixel)); });
-            return taken;
-        }
-        case QEvent::MouseButtonDblClick: {
-            const CPoint cell = CellAt(static_cast<QMouseEvent*>(event)->position().toPoint());
-            bool opened = false;
-            User([&] { opened = model_.UserBeginEdit(cell); });
-            return opened;
+            return true;
+        case QEvent::Leave:
+            LeaveMouse();
+            return false;
+        case QEvent::ContextMenu: {
+            auto* menu = static_cast<QContextMenuEvent*>(event);
+            const bool byMouse = menu->reason() == QContextMenuEvent::Mouse;
+            const QModelIndex current = table_.currentIndex();
+            const CPoint cell = byMouse ? PointerAt(menu->pos()).cell
+                                        : CPoint{current.column() + 1, current.row() + 1};
+            OpenMenu(cell, byMouse ? menu->pos() : table_.visualRect(current).center());
+            return true;
         }
         case QEvent::ToolTip: {
             auto* help = static_cast<QHelpEvent*>(event);
-            const CPoint cell = CellAt(help->pos());
-            std::wstring tip;
-            if (model_.Content() != nullptr && cell != CPoint{} &&
-                model_.Content()->GetToolTipText(cell.x, cell.y, tip)) {
-                QToolTip::showText(help->globalPos(), ToQt(tip), &table_);
-            } else {
-                QToolTip::hideText();
-            }
+            QToolTip::showText(help->globalPos(), TipAt(PointerAt(help->pos()).cell), &table_);
             return true;
         }
         default:
             return false;
     }
+}
+
+void WorksheetPeer::MoveMouse(const QMouseEvent& event) {
+    const Pointer at = PointerAt(event.position().toPoint());
+    User([&] { mouseTaken_ = model_.UserMouseMove(at.pixel, at.cell, at.rect); });
+    const bool slides = mouseTaken_ && Desktop::Instance().GetCursor() == Cursor::SizeHorizontal;
+    table_.viewport()->setCursor(slides ? Qt::SizeHorCursor : Qt::ArrowCursor);
+    const bool marks = (event.buttons() & Qt::LeftButton) != 0 && anchor_ != CPoint{};
+    if (!mouseTaken_ && marks && at.cell != CPoint{}) {
+        MarkTo(at.cell);
+    }
+}
+
+void WorksheetPeer::PressMouse(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) {
+        return;
+    }
+    const Pointer at = PointerAt(event.position().toPoint());
+    table_.setFocus(Qt::MouseFocusReason);
+    const CellRange& marked = model_.Selection();
+    if ((event.modifiers() & Qt::ShiftModifier) != 0 && !marked.IsEmpty() && at.cell != CPoint{}) {
+        anchor_ = {marked.firstColumn, marked.firstRow};
+        MarkTo(at.cell);
+        return;
+    }
+    anchor_ = at.cell;
+    User([&] { mouseTaken_ = model_.UserPress(at.pixel, at.cell); });
+}
+
+void WorksheetPeer::ReleaseMouse(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) {
+        return;
+    }
+    anchor_ = {};
+    const Pointer at = PointerAt(event.position().toPoint());
+    User([&] { mouseTaken_ = model_.UserRelease(at.pixel, at.cell); });
+}
+
+void WorksheetPeer::LeaveMouse() {
+    const QRect all = table_.viewport()->rect();
+    User([&] { model_.UserMouseMove({-1, -1}, {}, {0, 0, all.width(), all.height()}); });
+    table_.viewport()->unsetCursor();
+}
+
+void WorksheetPeer::OpenMenu(CPoint cell, QPoint place) {
+    User([&] {
+        if (IsIn(model_.Selection(), cell) || cell == CPoint{} || model_.UserSelectCell(cell)) {
+            model_.UserContextMenu({place.x(), place.y()});
+        }
+    });
+}
+
+QString WorksheetPeer::TipAt(CPoint cell) const {
+    if (cell == CPoint{}) {
+        return {};
+    }
+    std::wstring tip;
+    if (model_.Content()->GetToolTipText(cell.x, cell.y, tip)) {
+        return ToQt(tip);
+    }
+    // A text that its column cuts off can be read here.
+    const QString text = ToQt(std::string_view(Content()->GetCellText(cell.x, cell.y)));
+    const bool isCut =
+        table_.fontMetrics().horizontalAdvance(text) + kRowPadding > CellRect(cell).Width();
+    return isCut ? text : QString();
 }
 
 }  // namespace kvopt
