@@ -25,7 +25,9 @@ CellEditors::CellEditors(VirtualWorksheet& model, QTableView& table, WorksheetMo
     const auto place = [this] { PlaceEditor(); };
     connect(table.horizontalScrollBar(), &QScrollBar::valueChanged, this, place);
     connect(table.verticalScrollBar(), &QScrollBar::valueChanged, this, place);
-    connect(table.horizontalHeader(), &QHeaderView::sectionResized, this, place);
+    // The header tells of a column while it is still moving those behind it.
+    connect(table.horizontalHeader(), &QHeaderView::sectionResized, this, place,
+            Qt::QueuedConnection);
 }
 
 QComboBox* CellEditors::ComboOf(CPoint cell) const {
