@@ -10,7 +10,7 @@
 #include "census/page_controls.h"
 #include "kvopt/platform.h"
 #include "kvopt/text.h"
-#include "qt/frame_texts.h"
+#include "qt_texts.h"
 #include "selection_texts.h"
 
 namespace kvopt::test {
