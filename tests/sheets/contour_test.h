@@ -1,0 +1,97 @@
+#pragma once
+
+/// \file
+/// What the tests of the contour wizard share: a study of so many factors of each kind, a plot of
+/// it, and stores that live as long as the test.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "axes/sheet_desktop.h"
+#include "kvopt/platform.h"
+#include "kvopt/plotargs.h"
+#include "kvopt/sheets.h"
+#include "kvopt/stores.h"
+#include "kvopt/study.h"
+#include "support/fake_study.h"
+#include "support/plot_compare.h"
+#include "support/recording_section.h"
+
+namespace kvopt::test {
+
+using Names = std::vector<std::string>;
+
+/// How many factors of each kind a study has.
+struct FactorNumbers {
+    int mixture = 0;
+    int qualitative = 0;
+    int process = 0;  ///< without the qualitative ones
+    bool filler = false;
+};
+
+class ContourTest : public testing::Test {
+protected:
+    ContourTest()
+        : formerProfile_(UserProfile::Install(
+              std::make_shared<UserProfile>(std::make_unique<IniFileSection>()))) {
+        study.iniFileName = kIniFile;
+    }
+    ~ContourTest() override {
+        Investigation::SetActiveInvestigation(nullptr);
+        UserProfile::Install(formerProfile_);
+    }
+
+    void AddFactors(const FactorNumbers& numbers) {
+        for (int i = 1; i <= numbers.mixture; ++i) {
+            study.Part("M" + std::to_string(i));
+        }
+        for (int i = 1; i <= numbers.qualitative; ++i) {
+            study.Names("Q" + std::to_string(i), {"a", "b", "c"});
+        }
+        for (int i = 1; i <= numbers.process; ++i) {
+            study.Number("P" + std::to_string(i), 0, 10);
+        }
+        if (numbers.filler) {
+            study.Filler("Rest");
+        }
+    }
+    void AddResponses(int count) {
+        Names names;
+        for (int i = 1; i <= count; ++i) {
+            names.push_back("Y" + std::to_string(i));
+            study.Response(names.back());
+        }
+        study.SetSelectedResponses(names);
+    }
+
+    /// Makes the plot that Data() gives.
+    ContourPlotData& MakeData(bool isDSProbability = false, bool hideSurface = false) {
+        data_ = std::make_unique<ContourPlotData>(&study, 0, kIniFile, isDSProbability, false,
+                                                  hideSurface, false);
+        return *data_;
+    }
+    ContourPlotData& Data() { return *data_; }
+    ContourPageData& PageData() { return *data_->GetContourTypeData(); }
+    ContourPageData::Arguments& Options() { return PageData().GetOptions(); }
+
+    /// What the user's profile remembers; 0 for nothing.
+    static int Profile(const std::string& key) {
+        return UserProfile::Instance()->GetProfileInteger("Plot", key, 0);
+    }
+
+    static constexpr const char* kIniFile = "study.ini";
+
+    MemoryIniFiles files;
+    SheetDesktop desktop;
+    FakeStudy study;
+
+private:
+    std::shared_ptr<UserProfile> formerProfile_;
+    std::unique_ptr<ContourPlotData> data_;
+};
+
+}  // namespace kvopt::test
