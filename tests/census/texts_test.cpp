@@ -11,6 +11,7 @@
 #include "constants_texts.h"
 #include "kvopt/text.h"
 #include "plotargs_texts.h"
+#include "qt_texts.h"
 #include "selection_texts.h"
 #include "sheets_texts.h"
 #include "study_texts.h"
@@ -96,14 +97,14 @@ CompiledFormat Compiled(const FormatText<N>& format) {
     { #name, Compiled(texts::name) }
 const std::map<std::string, CompiledFormat>& CompiledFormats() {
     static const std::map<std::string, CompiledFormat> formats{
-        KVOPT_FORMAT(kAxesDuplicate),       KVOPT_FORMAT(kAxesIllegalName),
-        KVOPT_FORMAT(kAxesNotNumber),       KVOPT_FORMAT(kAxesLowNotBelowHigh),
-        KVOPT_FORMAT(kAxesIllegalSetting),  KVOPT_FORMAT(kAxesOutsideRecommended),
-        KVOPT_FORMAT(kAxesNextSetting),     KVOPT_FORMAT(kConstantsDoubtful),
-        KVOPT_FORMAT(kConstantsMissing),    KVOPT_FORMAT(kSelectTitle),
-        KVOPT_FORMAT(kSelectHeading),       KVOPT_FORMAT(kAvailableLabel),
-        KVOPT_FORMAT(kSelectedLabel),       KVOPT_FORMAT(kNothingSelected),
-        KVOPT_FORMAT(kStudyNameWithSetting)};
+        KVOPT_FORMAT(kAxesDuplicate),        KVOPT_FORMAT(kAxesIllegalName),
+        KVOPT_FORMAT(kAxesNotNumber),        KVOPT_FORMAT(kAxesLowNotBelowHigh),
+        KVOPT_FORMAT(kAxesIllegalSetting),   KVOPT_FORMAT(kAxesOutsideRecommended),
+        KVOPT_FORMAT(kAxesNextSetting),      KVOPT_FORMAT(kConstantsDoubtful),
+        KVOPT_FORMAT(kConstantsMissing),     KVOPT_FORMAT(kSelectTitle),
+        KVOPT_FORMAT(kSelectHeading),        KVOPT_FORMAT(kAvailableLabel),
+        KVOPT_FORMAT(kSelectedLabel),        KVOPT_FORMAT(kNothingSelected),
+        KVOPT_FORMAT(kStudyNameWithSetting), KVOPT_FORMAT(kSpokenSlider)};
     return formats;
 }
 #undef KVOPT_FORMAT
