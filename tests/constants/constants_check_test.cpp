@@ -74,6 +74,18 @@ TEST_F(ConstantsCheck, IsOverruledByYesAlone) {
     EXPECT_EQ(desktop.boxes.size(), 4U);
 }
 
+TEST_F(ConstantsCheck, AsksInFrontOfItsPageOrElseOfItsWindow) {
+    study.Part("P");
+    InPage();
+    Put(1, "1.5");
+    Check();
+    Free();
+    Put(1, "1.5");
+    CWnd& window = *Window().GetTopLevelParent();
+    Check();
+    EXPECT_THAT(desktop.boxOwners, ElementsAre(&page, &page, &window, &window));
+}
+
 TEST_F(ConstantsCheck, TrimsTheValuesItReports) {
     study.Number("A", 0, 10);
     study.Number("B", 0, 10);

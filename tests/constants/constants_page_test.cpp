@@ -83,6 +83,8 @@ TEST_F(ConstantsPageTest, HandsReadOnlyOnToItsGrid) {
 
 TEST_F(ConstantsPageTest, MakesTheGridForTheFactorsThatTheModelsUse) {
     study.usedFactors = 7;
+    study.Response("Y");
+    study.ExtraResponse("Derived", ResponseEx::Derived);
     const ConstantsPage page(&study, Arguments(), 6157, nullptr, false);
     EXPECT_EQ(page.Grid().RowCount(), 7);
     EXPECT_EQ(study.usedQuestions,

@@ -572,6 +572,20 @@ TEST_F(ConstantsSlider, DoesNothingWithoutAPageWhenTheTimerComesAfterTheRelease)
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
+TEST_F(ConstantsSlider, JudgesNoSumWhenTheTimerComesAfterTheRelease) {
+    study.Part("P", 0, 86);
+    study.Filler("Rest");
+    Free();
+    Grid().UpdateValue(2, 3, "10");
+    Hover(10, 3);
+    Press(3);
+    Hover(50, 3);
+    Release(3);
+    ASSERT_EQ(desktop.boxes.size(), 1U);
+    desktop.clock.Advance(100);
+    EXPECT_EQ(desktop.boxes.size(), 1U);
+}
+
 TEST_F(ConstantsSlider, MarksThePageAlsoWhenTheTimerComesAfterTheRelease) {
     InPage();
     Take(1);

@@ -40,6 +40,7 @@ public:
     VirtualClock clock;
     std::vector<unsigned> startedTimers;  ///< milliseconds, one for each start
     std::vector<Menu> menus;
+    std::vector<const CWnd*> boxOwners;
     int menuChoice = 0;
     int dpi = 96;
 
@@ -49,6 +50,10 @@ protected:
     void DoStartTimer(TimerId id, unsigned milliseconds, std::function<void()> callback) override {
         startedTimers.push_back(milliseconds);
         clock.Start(id, milliseconds, std::move(callback));
+    }
+    BoxAnswer DoShowBox(const MessageBoxRequest& request) override {
+        boxOwners.push_back(request.owner);
+        return SheetDesktop::DoShowBox(request);
     }
     void DoStopTimer(TimerId id) override { clock.Stop(id); }
     int DoShowPopupMenu(CWnd& owner, CPoint point,

@@ -517,14 +517,14 @@ TEST_F(MultipleResponsePageTest, RestoresTheDefaultsInTheModelAtOnce) {
 }
 
 TEST_F(MultipleResponsePageTest, MakesTheOrderUpAnewWithTheDefaults) {
-    const auto page = Make({"Y1", "Y2"});
-    page->SetDefauts({"Y1", "Y2", "Y5"});
+    const auto page = Make({"Y4", "Y5"});
+    page->SetDefauts({"Y1", "Y2"});
     Show(*page);
     page->Reset().UserClick();
-    ASSERT_THAT(page->Left(), ElementsAre("*Y3", "Y4"));
-    Mark(page->Selected(), {2});
+    ASSERT_THAT(page->Left(), ElementsAre("*Y3", "Y4", "Y5"));
+    Mark(page->Selected(), {0});
     page->RemoveArrow().UserClick();
-    EXPECT_THAT(page->Left(), ElementsAre("*Y3", "Y4", "Y5"));
+    EXPECT_THAT(page->Left(), ElementsAre("Y1", "*Y3", "Y4", "Y5"));
 }
 
 // Storing.

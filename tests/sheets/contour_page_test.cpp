@@ -661,6 +661,19 @@ TEST_F(ContourOptionsDialog, HoldsNoScaleWhenItIsCancelled) {
     EXPECT_TRUE(Options().scaleEqual);
 }
 
+TEST_F(ContourOptionsDialog, HoldsNoScaleThatWasStoredBeforeItWasCancelled) {
+    Show();
+    Open([](CPropertySheet& sheet, const CDialog&) {
+        auto& page = dynamic_cast<CPropertyPage&>(*sheet.GetActivePage());
+        Scale(page).UserClick();
+        page.OnApply();
+        sheet.UserCancel();
+    });
+    EXPECT_TRUE(Options().scaleEqual);
+    Page().TransferFromPage();
+    EXPECT_FALSE(Options().scaleEqual);
+}
+
 TEST_F(ContourOptionsDialog, SavesTheResolutionAtOnce) {
     Show();
     Open([](CPropertySheet& sheet, const CDialog& page) {

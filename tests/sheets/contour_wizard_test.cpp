@@ -117,6 +117,10 @@ TEST_F(ContourWizardTest, ShowsTheAxesOfItsSetsAndThePlotsConstants) {
     MakeData();
     Data().GetAxisInfo(ContourPlotData::Process2D)[1]->SetName("P2");
     Data().GetAxisInfo(ContourPlotData::Process2D)[2]->SetName("P1");
+    const Names mixture{"M3", "M1", "M2"};
+    for (std::size_t i = 0; i < mixture.size(); ++i) {
+        Data().GetAxisInfo(ContourPlotData::Mixture2D)[i + 1]->SetName(mixture[i]);
+    }
     FactorConstants::Constant* constants = Data().GetPlotConstants();
     constants[FactorConstants::Lookup(constants, "M2")].FloatValue(0.125);
     desktop.user = [](CPropertySheet& sheet) {
@@ -134,7 +138,9 @@ TEST_F(ContourWizardTest, ShowsTheAxesOfItsSetsAndThePlotsConstants) {
         EXPECT_TRUE(sheet.GetActivePage()->Item<CButton>(6105)->UserClick());
         ASSERT_TRUE(sheet.UserNext());
         EXPECT_EQ(sheet.GetActivePage()->TemplateNumber(), 6168);
-        EXPECT_EQ(sheet.GetActivePage()->Item<CComboBox>(6038)->GetText(), L"M3");
+        EXPECT_EQ(sheet.GetActivePage()->Item<CComboBox>(6036)->GetText(), L"M3");
+        EXPECT_EQ(sheet.GetActivePage()->Item<CComboBox>(6037)->GetText(), L"M1");
+        EXPECT_EQ(sheet.GetActivePage()->Item<CComboBox>(6038)->GetText(), L"M2");
     };
     Run(true);
 }
