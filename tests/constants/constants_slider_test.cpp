@@ -14,7 +14,6 @@ using testing::IsEmpty;
 /// A cell whose frame of one pixel leaves 100 pixels, of which 86 are the slider's: a factor from 0
 /// to 86 has the value x - 8 at the pixel x.
 constexpr CRect kCell{0, 0, 102, 22};
-constexpr CPoint kOutside{300, 300};
 
 CPoint PixelOf(int value) {
     return {value + 8, 10};
