@@ -46,7 +46,7 @@ private:
     Factors factors_;
 };
 
-/// The specification of the study's models: objective, blocks, design. Without an override it
+/// What the models of a study are to be: objective, blocks, design. Without an override it
 /// answers from the study's variables.
 class KVOPT_EXPORT ModelSpec : public Objective {
 public:
