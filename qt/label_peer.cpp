@@ -10,6 +10,7 @@ namespace kvopt {
 LabelPeer::LabelPeer(QtDesktop& desktop, CControl& model, QLabel& label)
     : Peer(desktop, model, label), label_(label) {
     label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(model.Template().wraps);
 }
 
 void LabelPeer::Push(WindowChange change) {

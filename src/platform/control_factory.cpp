@@ -2,8 +2,22 @@
 
 #include "kvopt/platform/controls.h"
 #include "kvopt/platform/virtual_worksheet.h"
+#include "kvopt/text/kv_std_string.h"
 
 namespace kvopt {
+
+namespace {
+
+template <class List>
+std::unique_ptr<CControl> MakeList(CDialog& dialog, const ControlTemplate& what) {
+    auto list = std::make_unique<List>(dialog, what);
+    for (const char* entry : what.entries) {
+        list->AddString(KvStdString::ToWide(entry));
+    }
+    return list;
+}
+
+}  // namespace
 
 std::unique_ptr<CControl> MakeControl(CDialog& dialog, const ControlTemplate& what) {
     switch (what.kind) {
@@ -11,10 +25,10 @@ std::unique_ptr<CControl> MakeControl(CDialog& dialog, const ControlTemplate& wh
             return std::make_unique<CEdit>(dialog, what);
         case ControlKind::ComboList:
         case ControlKind::ComboEdit:
-            return std::make_unique<CComboBox>(dialog, what);
+            return MakeList<CComboBox>(dialog, what);
         case ControlKind::ListSingle:
         case ControlKind::ListMulti:
-            return std::make_unique<CListBox>(dialog, what);
+            return MakeList<CListBox>(dialog, what);
         case ControlKind::Push:
         case ControlKind::Check:
         case ControlKind::Radio:

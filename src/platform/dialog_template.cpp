@@ -56,8 +56,16 @@ LayoutItem LayoutItem::DigitsOnly() const {
     return With(*this, [](LayoutItem& item) { item.control.digitsOnly = true; });
 }
 
+LayoutItem LayoutItem::Wraps() const {
+    return With(*this, [](LayoutItem& item) { item.control.wraps = true; });
+}
+
 LayoutItem LayoutItem::Buddy(int number) const {
     return With(*this, [&](LayoutItem& item) { item.control.buddy = number; });
+}
+
+LayoutItem LayoutItem::Entries(std::vector<const char*> texts) const {
+    return With(*this, [&](LayoutItem& item) { item.control.entries = std::move(texts); });
 }
 
 std::vector<ControlTemplate> DialogTemplate::Controls() const {

@@ -32,6 +32,10 @@ TEST(DialogTemplate, DecoratesCopies) {
     EXPECT_TRUE(plain.control.enabled);
     EXPECT_TRUE(Radio(2, "r").StartsGroup().control.startsGroup);
     EXPECT_EQ(Label(3, "l").Buddy(1).control.buddy, 1);
+    EXPECT_TRUE(Label(3, "l").Wraps().control.wraps);
+    EXPECT_FALSE(Label(3, "l").control.wraps);
+    EXPECT_THAT(ComboList(4).Entries({"a", "b"}).control.entries, ElementsAre("a", "b"));
+    EXPECT_TRUE(ComboList(4).control.entries.empty());
 }
 
 TEST(DialogTemplate, IsBuiltFromEveryKindOfItem) {

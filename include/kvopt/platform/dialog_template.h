@@ -35,7 +35,9 @@ struct ControlTemplate {
     bool visible = true;
     bool startsGroup = false;  ///< first radio button of a group
     bool digitsOnly = false;   ///< typing into an edit takes digits alone
+    bool wraps = false;        ///< a label's text is broken into lines
     int buddy = -1;            ///< label: the control its mnemonic leads to; spin: its edit
+    std::vector<const char*> entries = {};  ///< what a list holds from the start
 };
 
 enum class LayoutKind {
@@ -66,7 +68,9 @@ struct KVOPT_EXPORT LayoutItem {
     LayoutItem Hidden() const;
     LayoutItem StartsGroup() const;
     LayoutItem DigitsOnly() const;
+    LayoutItem Wraps() const;
     LayoutItem Buddy(int number) const;
+    LayoutItem Entries(std::vector<const char*> texts) const;
 };
 
 /// A dialog as data: both the control models of the core and the widgets of a front end are made
