@@ -86,7 +86,20 @@ const std::vector<PageOfTemplate>& PagesOfTemplates() {
         {"ContourPlotOptionsPage",
          6213,
          {{6046, ControlKind::ComboEdit}, {6029, ControlKind::Check}},
-         {6022, 6027, 6223}}};
+         {6022, 6027, 6223}},
+        {"ConfidenceLevelPage",
+         6155,
+         {{6299, ControlKind::ComboList},
+          {6302, ControlKind::Label},
+          {6300, ControlKind::ComboList},
+          {6342, ControlKind::Label},
+          {6341, ControlKind::ComboList}}},
+        {"PredictionLevelPage",
+         6230,
+         {{6344, ControlKind::ComboList},
+          {6299, ControlKind::ComboList},
+          {6341, ControlKind::ComboList},
+          {6351, ControlKind::Label}}}};
     return pages;
 }
 
@@ -99,7 +112,9 @@ const std::vector<PageSources>& SourcesOfPages() {
         {"ConstantsPage", {"constants/constants_page.cpp"}},
         {"MultipleResponsePage", {"selection/multiple_response_page.cpp"}},
         {"ContourPage", {"selection/multiple_response_page.cpp", "sheets/contour_page.cpp"}},
-        {"ContourPlotOptionsPage", {"sheets/contour_plot_options_page.cpp"}}};
+        {"ContourPlotOptionsPage", {"sheets/contour_plot_options_page.cpp"}},
+        {"ConfidenceLevelPage", {"statpages/confidence_level_page.cpp"}},
+        {"PredictionLevelPage", {"statpages/prediction_level_page.cpp"}}};
     return sources;
 }
 
