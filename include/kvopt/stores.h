@@ -12,5 +12,6 @@
 #include "kvopt/stores/plot_wizard_ini_section.h"
 #include "kvopt/stores/predicted_plot_ini_section.h"
 #include "kvopt/stores/registry.h"
+#include "kvopt/stores/registry_areas.h"
 #include "kvopt/stores/store_trouble.h"
 #include "kvopt/stores/user_profile.h"

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "kvopt/text/exceptions.h"
 #include "stores/store_test_support.h"
 
 namespace kvopt {
@@ -145,6 +146,15 @@ TEST(Registry, LiesInTheUsersConfigurationFolder) {
     EXPECT_EQ(test::Slurp(file), "[App][WindowPos]\nLeft=3\n");
     registry.DeleteKey("App\\WindowPos");
     EXPECT_EQ(test::Slurp(file), "");
+}
+
+TEST(Registry, HasTheAreasOfTheApplicationBelowOneKey) {
+    EXPECT_EQ(GetRegistryBaseKeyName("WindowPos"), "Software\\kvopt\\WindowPos");
+    EXPECT_EQ(GetRegistryBaseKeyName(""), "Software\\kvopt");
+    EXPECT_EQ(GetRegistryBaseKeyNameW(L"Größe"), L"Software\\kvopt\\Größe");
+    EXPECT_EQ(GetDontShowAgainRegistrySection(), L"DontShowAgain");
+    EXPECT_THROW(GetRegistryBaseKeyName(nullptr), InvalidArgument);
+    EXPECT_THROW(GetRegistryBaseKeyNameW(nullptr), InvalidArgument);
 }
 
 TEST(Registry, MayBeReplacedAndComesBack) {
