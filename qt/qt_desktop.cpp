@@ -1,6 +1,7 @@
 #include "kvopt/qt/qt_desktop.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QCursor>
 #include <QMenu>
@@ -157,6 +158,9 @@ BoxAnswer QtDesktop::DoShowBox(const MessageBoxRequest& request) {
         box.setDefaultButton(QMessageBox::Yes);
         box.setEscapeButton(QMessageBox::No);
     }
+    if (request.OffersSilence()) {
+        box.setCheckBox(new QCheckBox(ToQt(request.silenceLabel)));  // the box owns it
+    }
     if (player_ != nullptr) {
         player_->AnswerBox(box, request);
     }
@@ -167,8 +171,12 @@ BoxAnswer QtDesktop::DoShowBox(const MessageBoxRequest& request) {
         case QMessageBox::No:
             return BoxAnswer::No;
         default:
-            return request.IsQuestion() ? BoxAnswer::No : BoxAnswer::Ok;
+            break;
     }
+    if (box.checkBox() != nullptr && box.checkBox()->isChecked()) {
+        return BoxAnswer::Silence;
+    }
+    return request.IsQuestion() ? BoxAnswer::No : BoxAnswer::Ok;
 }
 
 void QtDesktop::DoStartTimer(TimerId id, unsigned milliseconds, std::function<void()> callback) {

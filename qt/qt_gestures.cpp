@@ -21,6 +21,7 @@
 #include "kvopt/platform/virtual_worksheet.h"
 #include "kvopt/qt/qt_desktop.h"
 #include "kvopt/qt/qt_player.h"
+#include "qt/hit_point.h"
 #include "qt/page_view.h"
 #include "qt/qt_text.h"
 #include "qt/sheet_window.h"
@@ -29,11 +30,6 @@
 namespace kvopt {
 
 namespace {
-
-/// Where a person hits a check box or a radio button: its mark, not the empty room beside it.
-QPoint HitPoint(const QWidget& widget) {
-    return {widget.height() / 2, widget.height() / 2};
-}
 
 QLineEdit* FieldOf(QWidget& widget) {
     if (auto* combo = qobject_cast<QComboBox*>(&widget)) {

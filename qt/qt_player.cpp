@@ -1,6 +1,7 @@
 #include "kvopt/qt/qt_player.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPixmap>
@@ -11,6 +12,7 @@
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/qt/qt_desktop.h"
 #include "kvopt/text.h"
+#include "qt/hit_point.h"
 #include "qt/modal_window.h"
 #include "qt/qt_gestures.h"
 #include "qt/qt_text.h"
@@ -73,6 +75,9 @@ void QtPlayer::Drive(QWidget& window, const std::function<bool()>& hasEnded) {
 void QtPlayer::AnswerBox(QMessageBox& box, const MessageBoxRequest& request) {
     const BoxAnswer answer = steps_->AnswerBox(request);
     QTimer::singleShot(0, &box, [this, &box, answer] {
+        if (answer == BoxAnswer::Silence && box.checkBox() != nullptr) {
+            QTest::mouseClick(box.checkBox(), Qt::LeftButton, {}, HitPoint(*box.checkBox()));
+        }
         TakePicture(box, "box");
         QAbstractButton* button = box.button(answer == BoxAnswer::Yes  ? QMessageBox::Yes
                                              : answer == BoxAnswer::No ? QMessageBox::No

@@ -313,8 +313,9 @@ void ScriptParser::TakeBox(UserStep& step) {
     const std::optional<BoxAnswer> answer =
         Peek() != nullptr && !Peek()->quoted ? BoxAnswerOf(Peek()->text) : std::nullopt;
     const bool answersQuestion = answer == BoxAnswer::Yes || answer == BoxAnswer::No;
-    if (request.IsQuestion() ? !answersQuestion : answer != BoxAnswer::Ok) {
-        Expected(request.IsQuestion() ? "yes or no" : "ok");
+    const bool answersOther = answer == BoxAnswer::Ok || answer == BoxAnswer::Silence;
+    if (request.IsQuestion() ? !answersQuestion : !answersOther) {
+        Expected(request.IsQuestion() ? "yes or no" : "ok or silence");
     }
     ++at_;
     step.box.answer = *answer;

@@ -73,11 +73,12 @@ constexpr std::array<WordTable<BoxStyle>, 5> kStyles{{
     {BoxStyle::YesNoInformation, "question"},
 }};
 
-constexpr std::array<WordTable<BoxAnswer>, 4> kAnswers{{
+constexpr std::array<WordTable<BoxAnswer>, 5> kAnswers{{
     {BoxAnswer::Ok, "ok"},
     {BoxAnswer::Cancel, "cancel"},
     {BoxAnswer::Yes, "yes"},
     {BoxAnswer::No, "no"},
+    {BoxAnswer::Silence, "silence"},
 }};
 
 constexpr std::array<WordTable<Cursor>, 3> kCursors{{

@@ -32,7 +32,11 @@ BoxAnswer DefaultAnswer(const MessageBoxRequest& request) {
     return request.IsQuestion() ? BoxAnswer::No : BoxAnswer::Ok;
 }
 
-bool FitsQuestion(const MessageBoxRequest& request, BoxAnswer answer) {
+/// Whether the box has what gives this answer.
+bool CanAnswer(const MessageBoxRequest& request, BoxAnswer answer) {
+    if (answer == BoxAnswer::Silence) {
+        return request.OffersSilence();
+    }
     return request.IsQuestion() == (answer == BoxAnswer::Yes || answer == BoxAnswer::No);
 }
 
@@ -132,15 +136,18 @@ BoxAnswer StepPlayer::AnswerBox(const MessageBoxRequest& request) {
     for (; !IsAtEnd() && steps_[next_].step.verb == StepVerb::ExpectBox; ++next_) {
         const QueuedStep& expected = steps_[next_];
         const ExpectedBox& box = expected.step.box;
-        if (Matches(box, request)) {
-            ++next_;
-            return box.answer;
+        const bool matches = Matches(box, request);
+        if (!matches && box.optional) {
+            continue;
         }
-        if (!box.optional) {
-            ++next_;
+        ++next_;
+        const bool canAnswer = CanAnswer(request, box.answer);
+        if (!matches) {
             FailAt(expected, "another box came: " + Describe(request));
-            return FitsQuestion(request, box.answer) ? box.answer : DefaultAnswer(request);
+        } else if (!canAnswer) {
+            FailAt(expected, "the box does not offer this answer");
         }
+        return canAnswer ? box.answer : DefaultAnswer(request);
     }
     Fail("an unexpected box came: " + Describe(request));
     return DefaultAnswer(request);

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "kvopt/platform/control.h"
 #include "kvopt/platform/dialog.h"
-#include "kvopt/platform/property_page.h"
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/platform/transcript.h"
 #include "kvopt/text/exceptions.h"
+#include "platform/box_over.h"
 
 namespace kvopt {
 
@@ -24,6 +23,8 @@ const char* NameOf(BoxAnswer answer) {
             return "cancel";
         case BoxAnswer::Yes:
             return "yes";
+        case BoxAnswer::Silence:
+            return "silence";
         case BoxAnswer::No:
             break;
     }
@@ -165,8 +166,9 @@ void Desktop::RunModal(const std::function<void()>& begin, const std::function<v
 BoxAnswer Desktop::ShowBox(const MessageBoxRequest& request) {
     const BoxAnswer answer = DoShowBox(request);
     Note("box " + std::to_string(static_cast<unsigned>(request.style)) + " " +
-         Transcript::Quote(request.caption) + " " + Transcript::Quote(request.text) + " -> " +
-         NameOf(answer));
+         Transcript::Quote(request.caption) + " " + Transcript::Quote(request.text) +
+         (request.OffersSilence() ? " check " + Transcript::Quote(request.silenceLabel) : "") +
+         " -> " + NameOf(answer));
     return answer;
 }
 
@@ -297,19 +299,7 @@ void Desktop::DoShowHelp(unsigned /*topic*/) {}
 void Desktop::OnPosted() {}
 
 BoxAnswer ShowMessage(CWnd* owner, std::wstring_view text, BoxStyle style) {
-    if (const auto* control = dynamic_cast<const CControl*>(owner)) {
-        owner = &control->Dialog();
-    }
-    MessageBoxRequest request{std::wstring(text), {}, style, owner};
-    if (const auto* page = dynamic_cast<const CPropertyPage*>(owner)) {
-        if (page->Sheet() != nullptr) {
-            request.owner = page->Sheet();
-            request.caption = page->Sheet()->GetText();
-        }
-    } else if (owner != nullptr) {
-        request.caption = owner->GetText();
-    }
-    return Desktop::Instance().ShowBox(request);
+    return Desktop::Instance().ShowBox(BoxOver(owner, text, style));
 }
 
 }  // namespace kvopt

@@ -24,6 +24,9 @@ TEST_F(TheDesktop, CancelsAndDeclinesEverythingWhenThereAreNoWindows) {
               BoxAnswer::No);
     EXPECT_EQ(plain.ShowBox({L"So it is", L"Sheet", BoxStyle::Error, nullptr}), BoxAnswer::Ok);
     EXPECT_EQ(plain.ShowBox({L"So it is", L"Sheet", BoxStyle::Plain, nullptr}), BoxAnswer::Ok);
+    EXPECT_EQ(
+        plain.ShowBox({L"Mind it", L"Sheet", BoxStyle::Information, nullptr, L"&Never again"}),
+        BoxAnswer::Ok);
     {
         KvPropertySheet sheet(L"Sheet", nullptr, 0);
         RecordingPage page("page", kPageA);
@@ -37,9 +40,10 @@ TEST_F(TheDesktop, CancelsAndDeclinesEverythingWhenThereAreNoWindows) {
         log.Lines(),
         ElementsAre("box 52 \"Sheet\" \"Go on?\" -> no", "box 68 \"Sheet\" \"Go on?\" -> no",
                     "box 16 \"Sheet\" \"So it is\" -> ok", "box 0 \"Sheet\" \"So it is\" -> ok",
-                    "sheet \"Sheet\"", "page 90001 \"Page A\"", "page.OnInitDialog",
-                    "page.OnSetActive", "page.OnCancel", "page.OnDestroyWindow", "end 2",
-                    "dialog \"Page B\"", "end 2"));
+                    "box 64 \"Sheet\" \"Mind it\" check \"&Never again\" -> ok", "sheet \"Sheet\"",
+                    "page 90001 \"Page A\"", "page.OnInitDialog", "page.OnSetActive",
+                    "page.OnCancel", "page.OnDestroyWindow", "end 2", "dialog \"Page B\"",
+                    "end 2"));
     EXPECT_EQ(Desktop::Install(&desktop), nullptr);
 }
 

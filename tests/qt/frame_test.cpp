@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -338,6 +339,41 @@ TEST_P(Boxes, ShowTextIconAndButtonsAndGiveTheAnswer) {
     EXPECT_EQ(answer, box.isQuestion ? BoxAnswer::No : BoxAnswer::Ok);
     Play(show, {[] { Front()->close(); }});
     EXPECT_EQ(answer, box.isQuestion ? BoxAnswer::No : BoxAnswer::Ok);
+}
+
+TEST_F(QtTest, ABoxThatOffersSilenceHasACheckThatGivesIt) {
+    BoxAnswer answer = BoxAnswer::Cancel;
+    const auto show = [&] {
+        answer = desktop_.ShowBox(
+            {L"Mind it", L"Caption", BoxStyle::Information, nullptr, L"&Never again"});
+    };
+    const auto check = [] {
+        const auto* shown = qobject_cast<QMessageBox*>(Front());
+        return shown != nullptr ? shown->checkBox() : nullptr;
+    };
+    Play(show, {[&] {
+             ASSERT_NE(check(), nullptr);
+             EXPECT_EQ(check()->text(), QStringLiteral("&Never again"));
+             EXPECT_FALSE(check()->isChecked());
+             ClickFrame("OK");
+         }});
+    EXPECT_EQ(answer, BoxAnswer::Ok);
+    Play(show, {[&] {
+             QTest::keyClick(check(), Qt::Key_Space);
+             ClickFrame("OK");
+         }});
+    EXPECT_EQ(answer, BoxAnswer::Silence);
+}
+
+TEST_F(QtTest, ARecordedUserMarksTheCheckOfABoxWhenToldTo) {
+    QtPlayer player(desktop_, UserScript::FromText("expect box information \"Mind it\"\n"
+                                                   "expect box information \"Mind it\" "
+                                                   "answer silence\n"));
+    const MessageBoxRequest offering{L"Mind it", L"Caption", BoxStyle::Information, nullptr,
+                                     L"&Never again"};
+    EXPECT_EQ(desktop_.ShowBox(offering), BoxAnswer::Ok);
+    EXPECT_EQ(desktop_.ShowBox(offering), BoxAnswer::Silence);
+    EXPECT_TRUE(player.Verify().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(

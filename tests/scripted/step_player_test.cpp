@@ -127,6 +127,28 @@ TEST_F(StepPlayerTest, ABoxWithoutAStepUnderWayIsAnsweredToo) {
                 ElementsAre("after.script: an unexpected box came: information \"Done\""));
 }
 
+TEST_F(StepPlayerTest, MarksTheCheckThatKeepsABoxFromComingAgainWhenToldTo) {
+    const MessageBoxRequest offering{L"Mind it", {}, BoxStyle::Information, nullptr, L"&Never"};
+    desktop_.Player().Add(
+        UserScript::FromText("expect box information \"Mind it\"\n"
+                             "expect box information \"Mind it\" answer silence"));
+    EXPECT_EQ(desktop_.ShowBox(offering), BoxAnswer::Ok) << "left alone";
+    EXPECT_EQ(desktop_.ShowBox(offering), BoxAnswer::Silence);
+    EXPECT_THAT(desktop_.Verify(), IsEmpty());
+}
+
+TEST_F(StepPlayerTest, SilenceForABoxThatDoesNotOfferItIsAFault) {
+    EXPECT_THAT(Answers({{BoxStyle::Information, L"Done"}, {BoxStyle::Information, L"Other"}},
+                        "expect box information \"Done\" answer silence\n"
+                        "expect box information \"Done\" answer silence\nok"),
+                ElementsAre(BoxAnswer::Ok, BoxAnswer::Ok));
+    EXPECT_THAT(desktop_.Verify(),
+                ElementsAre("script:2: expect box information \"Done\" answer silence: "
+                            "the box does not offer this answer",
+                            "script:3: expect box information \"Done\" answer silence: "
+                            "another box came: information \"Other\""));
+}
+
 TEST_F(StepPlayerTest, StepsThatWereNeverReachedAreFaults) {
     desktop_.Player().Add(UserScript::FromText("next\n\nfinish", "a.script"));
     EXPECT_THAT(desktop_.Verify(), ElementsAre("a.script:1: next: the step was never reached",

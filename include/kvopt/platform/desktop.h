@@ -27,15 +27,20 @@ enum class BoxStyle : unsigned {
     YesNoInformation = 68,
 };
 
-/// What a message box can answer, with the numbers of the desktop.
-enum class BoxAnswer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+/// What a message box can answer, with the numbers of the desktop. Silence, which has none there,
+/// is OK with the mark that keeps the box from coming again.
+enum class BoxAnswer { Ok = 1, Cancel = 2, Yes = 6, No = 7, Silence = 1001 };
 
 struct MessageBoxRequest {
     std::wstring text;
     std::wstring caption;
     BoxStyle style = BoxStyle::Plain;
     CWnd* owner = nullptr;
+    /// Label of a check that lets the user answer Silence, with "&" before the mnemonic; empty for
+    /// a box without one. No question has it.
+    std::wstring silenceLabel = {};
 
+    bool OffersSilence() const { return !silenceLabel.empty(); }
     bool IsQuestion() const {
         return style == BoxStyle::YesNoWarning || style == BoxStyle::YesNoInformation;
     }
