@@ -23,6 +23,7 @@
 #include "kvopt/platform/geometry.h"
 #include "kvopt/platform/item_control.h"
 #include "kvopt/platform/keys.h"
+#include "kvopt/platform/kv_dont_show_again_message_box.h"
 #include "kvopt/platform/kv_property_page.h"
 #include "kvopt/platform/kv_property_sheet.h"
 #include "kvopt/platform/list_box.h"
