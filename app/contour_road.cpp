@@ -18,7 +18,8 @@ std::unique_ptr<kvopt::ContourPlotData> NewPlot(kvopt::ReferenceStudy& study) {
 }  // namespace
 
 StoreFiles StoreFiles::InFolder(const std::string& folder) {
-    return {folder + "/study.ini", folder + "/profile.ini", folder + "/saved-plot.json"};
+    return {folder + "/study.ini", folder + "/profile.ini", folder + "/registry.ini",
+            folder + "/saved-plot.json"};
 }
 
 std::unique_ptr<kvopt::ContourPlotData> MakeContourPlot(kvopt::ReferenceStudy& study,

@@ -9,10 +9,11 @@ class CWnd;
 class ReferenceStudy;
 }  // namespace kvopt
 
-/// Where one study's stores stand: its ini file, the user's profile, its saved plots.
+/// Where one study's stores stand: its ini file, the user's profile and registry, its saved plots.
 struct StoreFiles {
     std::string ini;
     std::string profile;
+    std::string registry;
     std::string savedPlot;
 
     /// The files of a run in its own folder.

@@ -23,6 +23,11 @@ std::shared_ptr<kvopt::UserProfile> ProfileIn(const std::string& fileName) {
         kvopt::IniFileFactory::Instance()->GetIniFile(fileName, ""));
 }
 
+std::shared_ptr<kvopt::Registry> RegistryIn(const std::string& fileName) {
+    return std::make_shared<kvopt::Registry>(
+        kvopt::IniFileFactory::Instance()->GetIniFile(fileName, ""));
+}
+
 void WriteText(const std::string& fileName, const std::string& text) {
     std::ofstream file(fileName, std::ios::binary);
     file << text;
@@ -79,6 +84,7 @@ int RunTask(const CommandLine& command) {
     const auto study = kvopt::LoadStudy(command.study);
     study->SetIniFileName(files.ini);
     const auto formerProfile = kvopt::UserProfile::Install(ProfileIn(files.profile));
+    const auto formerRegistry = kvopt::Registry::Install(RegistryIn(files.registry));
     kvopt::Investigation::SetActiveInvestigation(study.get());
 
     const auto desktop = RoadDesktop::Make(command);
@@ -90,6 +96,7 @@ int RunTask(const CommandLine& command) {
     WriteText(command.out + "/transcript.txt", desktop->TranscriptText());
 
     kvopt::Investigation::SetActiveInvestigation(nullptr);
+    kvopt::Registry::Install(formerRegistry);
     kvopt::UserProfile::Install(formerProfile);
     PrintSummary(*study, plot.get());
     PrintFiles(command.out);

@@ -14,6 +14,7 @@ namespace kvopt::test {
 namespace {
 
 constexpr const char* kProfile = "profile.ini";
+constexpr const char* kRegistry = "registry.ini";
 
 std::filesystem::path MakeFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "kvopt-story-XXXXXX").string();
@@ -38,6 +39,8 @@ StoryStage::StoryStage(const Story& story)
       oldFactory_(IniFileFactory::Install(std::make_shared<IniFileFactory>())),
       oldProfile_(UserProfile::Install(std::make_shared<UserProfile>(
           IniFileFactory::Instance()->GetIniFile(FileOf(kProfile), "")))),
+      oldRegistry_(Registry::Install(std::make_shared<Registry>(
+          IniFileFactory::Instance()->GetIniFile(FileOf(kRegistry), "")))),
       study_(
           LoadStudy(std::string(KVOPT_SOURCE_DIR) + "/examples/studies/" + story.study + ".json")) {
     study_->SetIniFileName(IniFile());
@@ -47,6 +50,7 @@ StoryStage::StoryStage(const Story& story)
 StoryStage::~StoryStage() {
     Investigation::SetActiveInvestigation(nullptr);
     study_.reset();
+    Registry::Install(std::move(oldRegistry_));
     UserProfile::Install(std::move(oldProfile_));
     IniFileFactory::Install(std::move(oldFactory_));
     std::filesystem::remove_all(folder_);

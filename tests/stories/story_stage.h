@@ -36,6 +36,7 @@ private:
     std::filesystem::path folder_;
     std::shared_ptr<IniFileFactory> oldFactory_;
     std::shared_ptr<UserProfile> oldProfile_;
+    std::shared_ptr<Registry> oldRegistry_;
     std::unique_ptr<ReferenceStudy> study_;
 };
 
