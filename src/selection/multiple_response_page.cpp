@@ -8,6 +8,7 @@
 #include "kvopt/selection/select_responses.h"
 #include "kvopt/study.h"
 #include "kvopt/text.h"
+#include "selection/list_names.h"
 #include "selection_texts.h"
 
 namespace kvopt {
@@ -29,21 +30,6 @@ void SelectFirstWhereNone(CListBox& list) {
     if (list.GetSelCount() == 0 && list.GetCount() > 0) {
         list.SetSel(0);
     }
-}
-
-void FillList(CListBox& list, const std::vector<std::string>& names) {
-    list.ResetContent();
-    for (const std::string& name : names) {
-        list.AddString(KvStdString::ToWide(name));
-    }
-}
-
-std::vector<std::string> NamesOf(const CListBox& list) {
-    std::vector<std::string> names;
-    for (const std::wstring& text : list.Texts()) {
-        names.push_back(KvStdString::ToUtf8(text));
-    }
-    return names;
 }
 
 }  // namespace

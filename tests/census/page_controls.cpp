@@ -51,6 +51,11 @@ const Controls kResponseLists{{6303, ControlKind::Label},     {6215, ControlKind
                               {6017, ControlKind::Push},      {6313, ControlKind::Push},
                               {6216, ControlKind::Label},     {6078, ControlKind::ListMulti}};
 
+const Controls kItemLists{{6145, ControlKind::Label},     {6144, ControlKind::Label},
+                          {6075, ControlKind::ListMulti}, {6005, ControlKind::Push},
+                          {6017, ControlKind::Push},      {6146, ControlKind::Label},
+                          {6077, ControlKind::ListMulti}};
+
 const Controls kPlotType{{6096, ControlKind::Radio}, {6097, ControlKind::Radio},
                          {6126, ControlKind::Radio}, {6127, ControlKind::Radio},
                          {6115, ControlKind::Radio}, {6105, ControlKind::Radio},
@@ -80,6 +85,9 @@ const std::vector<PageOfTemplate>& PagesOfTemplates() {
         {"ConstantsPage", 6157, kGrid},
         {"ConstantsPage", 6170, kGrid},
         {"MultipleResponsePage", 6172, kResponseLists},
+        {"SelectItemDialog", 6150, kItemLists},
+        {"SelectResponsePage", 6184, {{6048, ControlKind::ComboList}}},
+        {"SelectVariablePage", 6185, {{6049, ControlKind::ComboList}}},
         {"ContourPage", 6158, kResponseLists + kPlotType},
         {"ContourPlotOptionsPage", 6159, kContourOptions},
         // A surface has neither contour colors nor labels nor levels.
@@ -111,6 +119,9 @@ const std::vector<PageSources>& SourcesOfPages() {
          {"axes/axis_page.cpp", "axes/contour_2d_axis_page.cpp", "axes/mixture_axis_page.cpp"}},
         {"ConstantsPage", {"constants/constants_page.cpp"}},
         {"MultipleResponsePage", {"selection/multiple_response_page.cpp"}},
+        {"SelectItemDialog", {"selection/select_item_dialog.cpp"}},
+        {"SelectResponsePage", {"selection/select_response_page.cpp"}},
+        {"SelectVariablePage", {"selection/select_variable_page.cpp"}},
         {"ContourPage", {"selection/multiple_response_page.cpp", "sheets/contour_page.cpp"}},
         {"ContourPlotOptionsPage", {"sheets/contour_plot_options_page.cpp"}},
         {"ConfidenceLevelPage", {"statpages/confidence_level_page.cpp"}},
