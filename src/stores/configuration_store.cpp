@@ -13,21 +13,42 @@ namespace kvopt {
 /// The tree of a ConfigurationStore and the file it was last at one with, if any.
 class JsonStore : public SectionStore {
 public:
-    JsonStore() : SectionStore(Shape::Tree) {}
+    explicit JsonStore(std::shared_ptr<FileLayer> layer)
+        : SectionStore(Shape::Tree), layer_(layer ? std::move(layer) : FileLayer::System()) {}
 
     void Read(std::string_view text, const std::string& fileName) {
         Replace(json::Parse(text, fileName));
     }
 
-    void Save(const std::string& fileName) {
-        WriteFileAtomically(*FileLayer::System(), ResolvePath(fileName), json::Print(Root()));
-        SetFile(fileName);
+    /// The tree of a file that can be read, as text, whole or by halves.
+    void Load(const std::string& fileName, bool alsoDamaged) {
+        const std::string path = ResolvePath(fileName);
+        std::string text;
+        FileStamp stamp;
+        if (!ReadWholeFile(*layer_, path, text, &stamp)) {
+            throw FileError(fileName, "there is no such file");
+        }
+        try {
+            Read(text, fileName);
+            SetFile(fileName, stamp);
+        } catch (const FileFormatError& unreadable) {
+            if (!alsoDamaged) {
+                throw;
+            }
+            Replace(json::ParseWhatIsReadable(text));
+            SetFile(fileName, {});
+            SetAside(path, text, unreadable);
+        }
     }
 
-    /// The file that the tree is at one with now.
-    void SetFile(const std::string& fileName) {
-        fileName_ = fileName;
-        ForgetChanges();
+    void Save(const std::string& fileName) {
+        const std::string path = ResolvePath(fileName);
+        const FileStamp present = StampOf(*layer_, path);
+        if (present.size != 0 && present != stamp_) {
+            SaveOverOther(fileName, path);
+        } else {
+            SetFile(fileName, WriteFileAtomically(*layer_, path, json::Print(Root())));
+        }
     }
 
     void Flush() override {
@@ -42,18 +63,64 @@ public:
     }
 
 private:
+    /// The file that the tree is at one with now.
+    void SetFile(const std::string& fileName, const FileStamp& stamp) {
+        fileName_ = fileName;
+        stamp_ = stamp;
+        ForgetChanges();
+    }
+
+    // Over a file that this store has not seen.
+    void SaveOverOther(const std::string& fileName, const std::string& path) {
+        const std::string tree = json::Print(Root());
+        std::string text;
+        ReadWholeFile(*layer_, path, text);
+        try {
+            json::Parse(text, path);
+        } catch (const FileFormatError& unreadable) {
+            SetAsideFile file = SetAsideAndWrite(*layer_, path, text, tree);
+            SetFile(fileName, file.stamp);
+            TellStoreTrouble(
+                {StoreTrouble::Kind::SetAside, path, std::move(file.movedTo), unreadable.what()});
+            return;
+        }
+        SetFile(fileName, WriteFileAtomically(*layer_, path, tree));
+    }
+
+    void SetAside(const std::string& path, const std::string& text,
+                  const FileFormatError& unreadable) {
+        StoreTrouble trouble{StoreTrouble::Kind::SetAside, path, "", unreadable.what()};
+        try {
+            SetAsideFile file = SetAsideAndWrite(*layer_, path, text, json::Print(Root()));
+            stamp_ = file.stamp;
+            trouble.movedTo = std::move(file.movedTo);
+        } catch (const FileError& error) {
+            trouble.reason += "; " + error.Reason();
+        }
+        TellStoreTrouble(trouble);
+    }
+
+    std::shared_ptr<FileLayer> layer_;
     std::string fileName_;
+    // Of the file as this store read or wrote it last.
+    FileStamp stamp_;
 };
 
-ConfigurationStore::ConfigurationStore() : store_(std::make_shared<JsonStore>()) {}
+ConfigurationStore::ConfigurationStore() : ConfigurationStore(nullptr) {}
+ConfigurationStore::ConfigurationStore(std::shared_ptr<FileLayer> layer)
+    : store_(std::make_shared<JsonStore>(std::move(layer))) {}
 
-ConfigurationStore ConfigurationStore::Load(const std::string& fileName) {
-    std::string text;
-    if (!ReadWholeFile(*FileLayer::System(), fileName, text)) {
-        throw FileError(fileName, "there is no such file");
-    }
-    ConfigurationStore store = Parse(text, fileName);
-    store.store_->SetFile(fileName);
+ConfigurationStore ConfigurationStore::Load(const std::string& fileName,
+                                            std::shared_ptr<FileLayer> layer) {
+    ConfigurationStore store(std::move(layer));
+    store.store_->Load(fileName, false);
+    return store;
+}
+
+ConfigurationStore ConfigurationStore::Recover(const std::string& fileName,
+                                               std::shared_ptr<FileLayer> layer) {
+    ConfigurationStore store(std::move(layer));
+    store.store_->Load(fileName, true);
     return store;
 }
 

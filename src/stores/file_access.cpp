@@ -17,7 +17,12 @@ namespace kvopt {
 namespace {
 
 constexpr mode_t kNewFileMode = 0666;
+constexpr mode_t kPrivateMode = 0600;
 constexpr mode_t kModeBits = 07777;
+constexpr mode_t kPermissions = 0777;
+constexpr mode_t kGroupPermissions = 0070;
+constexpr mode_t kPermissionsOfAll = 0007;
+constexpr off_t kLargestFile = off_t{1} << 30;
 
 [[noreturn]] void Fail(const std::string& path, const char* operation) {
     const std::string reason = std::generic_category().message(errno);
@@ -62,15 +67,26 @@ std::string FolderOf(const std::string& path) {
     return slash == 0 ? "/" : path.substr(0, slash);
 }
 
+// False when there is nothing under the path.
+bool LookAt(FileLayer& layer, const std::string& path, struct stat& status) {
+    if (layer.Status(path, status) == 0) {
+        return true;
+    }
+    if (errno != ENOENT && errno != ENOTDIR) {
+        Fail(path, "cannot be looked at");
+    }
+    return false;
+}
+
 // A file beside `path` under a name that nobody has; its name does not grow with that of the file,
 // which may be as long as the system allows.
-int OpenTemporary(FileLayer& layer, const std::string& path, std::string& name) {
+int OpenTemporary(FileLayer& layer, const std::string& path, mode_t mode, std::string& name) {
     static std::atomic<unsigned> counter{0};
     constexpr int kAttempts = 1000;
     for (int i = 0; i < kAttempts; ++i) {
         name = FolderOf(path) + "/.kvopt-" + std::to_string(::getpid()) + "-" +
                std::to_string(counter++) + ".tmp";
-        const int file = layer.Open(name, O_WRONLY | O_CREAT | O_EXCL, kNewFileMode);
+        const int file = layer.Open(name, O_WRONLY | O_CREAT | O_EXCL, mode);
         if (file >= 0 || errno != EEXIST) {
             return file;
         }
@@ -84,11 +100,83 @@ void WriteAll(FileLayer& layer, int file, const std::string& path, std::string_v
         if (written < 0 && errno == EINTR) {
             continue;
         }
-        if (written < 0) {
+        if (written == 0) {
+            errno = ENOSPC;
+        }
+        if (written <= 0) {
             Fail(path, "cannot be written");
         }
         content.remove_prefix(static_cast<std::size_t>(written));
     }
+}
+
+// A file of another owner or group stays theirs as far as this process may give a file away. What
+// the old group was allowed is nothing that another group gets.
+void TakeOnOwnerAndMode(FileLayer& layer, int file, const std::string& path,
+                        const struct stat& former) {
+    struct stat own {};
+    if (layer.StatusOfFile(file, own) != 0) {
+        Fail(path, "its mode cannot be kept");
+    }
+    constexpr auto kSameOwner = static_cast<uid_t>(-1);
+    mode_t mode = former.st_mode & kModeBits;
+    const bool isOfAnother = own.st_uid != former.st_uid || own.st_gid != former.st_gid;
+    if (isOfAnother && layer.ChangeOwner(file, former.st_uid, former.st_gid) != 0) {
+        mode &= kPermissions;
+        if (own.st_gid != former.st_gid &&
+            layer.ChangeOwner(file, kSameOwner, former.st_gid) != 0) {
+            mode &= ~kGroupPermissions | ((mode & kPermissionsOfAll) << 3U);
+        }
+    }
+    if (layer.ChangeMode(file, mode) != 0) {
+        Fail(path, "its mode cannot be kept");
+    }
+}
+
+void WriteAndFlush(FileLayer& layer, int file, const std::string& path, std::string_view content) {
+    WriteAll(layer, file, path, content);
+    if (layer.Sync(file) != 0) {
+        Fail(path, "cannot be flushed to disk");
+    }
+}
+
+// For file systems without second names.
+bool CopyToNew(FileLayer& layer, const std::string& path, const std::string& name,
+               std::string_view content) {
+    OpenFile file(layer, layer.Open(name, O_WRONLY | O_CREAT | O_EXCL, kPrivateMode));
+    if (file.Get() < 0) {
+        return false;
+    }
+    try {
+        struct stat former {};
+        if (LookAt(layer, path, former)) {
+            TakeOnOwnerAndMode(layer, file.Get(), path, former);
+        }
+        WriteAndFlush(layer, file.Get(), name, content);
+        return true;
+    } catch (const FileError&) {
+        layer.Remove(name);
+        throw;
+    }
+}
+
+bool HasNoSecondNames(int error) {
+    return error == EPERM || error == ENOTSUP || error == ENOSYS || error == EMLINK;
+}
+
+std::string KeepAside(FileLayer& layer, const std::string& path, std::string_view content) {
+    constexpr int kAttempts = 10000;
+    for (int i = 1; i <= kAttempts; ++i) {
+        std::string name = path + ".unreadable-" + std::to_string(i);
+        if (layer.Link(path, name) == 0 ||
+            (HasNoSecondNames(errno) && CopyToNew(layer, path, name, content))) {
+            return name;
+        }
+        if (errno != EEXIST) {
+            break;
+        }
+    }
+    Fail(path, "cannot be set aside");
 }
 
 void SyncFolder(FileLayer& layer, const std::string& path) {
@@ -117,12 +205,13 @@ std::string ResolvePath(const std::string& fileName) {
 
 FileStamp StampOf(FileLayer& layer, const std::string& path) {
     struct stat status {};
-    return layer.Status(path, status) == 0 ? ToStamp(status) : FileStamp();
+    return LookAt(layer, path, status) ? ToStamp(status) : FileStamp();
 }
 
 bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& content,
                    FileStamp* stamp) {
-    const OpenFile file(layer, layer.Open(path, O_RDONLY, 0));
+    // Opening a pipe would wait for somebody to write into it.
+    const OpenFile file(layer, layer.Open(path, O_RDONLY | O_NONBLOCK, 0));
     if (file.Get() < 0) {
         if (errno == ENOENT) {
             return false;
@@ -131,6 +220,13 @@ bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& conte
     }
     struct stat status {};
     if (layer.StatusOfFile(file.Get(), status) != 0) {
+        Fail(path, "cannot be read");
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw FileError(path, "cannot be read: it is no file");
+    }
+    if (status.st_size > kLargestFile) {
+        errno = EFBIG;
         Fail(path, "cannot be read");
     }
     content.clear();
@@ -156,21 +252,22 @@ bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& conte
 }
 
 FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path, std::string_view content) {
+    struct stat status {};
+    const bool isThere = LookAt(layer, path, status);
+    if (isThere && !S_ISREG(status.st_mode)) {
+        throw FileError(path, "cannot be replaced: it is no file");
+    }
     std::string temporary;
-    OpenFile file(layer, OpenTemporary(layer, path, temporary));
+    OpenFile file(layer,
+                  OpenTemporary(layer, path, isThere ? kPrivateMode : kNewFileMode, temporary));
     if (file.Get() < 0) {
         Fail(path, "no file can be made in its folder");
     }
     try {
-        struct stat status {};
-        if (layer.Status(path, status) == 0 &&
-            layer.ChangeMode(file.Get(), status.st_mode & kModeBits) != 0) {
-            Fail(path, "its mode cannot be kept");
+        if (isThere) {
+            TakeOnOwnerAndMode(layer, file.Get(), path, status);
         }
-        WriteAll(layer, file.Get(), path, content);
-        if (layer.Sync(file.Get()) != 0) {
-            Fail(path, "cannot be flushed to disk");
-        }
+        WriteAndFlush(layer, file.Get(), path, content);
         if (layer.StatusOfFile(file.Get(), status) != 0 || file.Close() != 0) {
             Fail(path, "cannot be closed");
         }
@@ -185,18 +282,20 @@ FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path, std::st
     }
 }
 
-std::string SetFileAside(FileLayer& layer, const std::string& path) {
-    constexpr int kAttempts = 10000;
-    for (int i = 1; i <= kAttempts; ++i) {
-        std::string name = path + ".unreadable-" + std::to_string(i);
-        if (layer.RenameToNew(path, name) == 0) {
-            return name;
+SetAsideFile SetAsideAndWrite(FileLayer& layer, const std::string& path, std::string_view old,
+                              std::string_view content) {
+    const FileStamp before = StampOf(layer, path);
+    std::string movedTo = KeepAside(layer, path, old);
+    try {
+        const FileStamp stamp = WriteFileAtomically(layer, path, content);
+        return {std::move(movedTo), stamp};
+    } catch (const FileError&) {
+        // Its second name goes only where the old file still has its first one.
+        if (StampOf(layer, path) == before) {
+            layer.Remove(movedTo);
         }
-        if (errno != EEXIST) {
-            break;
-        }
+        throw;
     }
-    Fail(path, "cannot be set aside");
 }
 
 FileLock::FileLock(std::shared_ptr<FileLayer> layer, const std::string& path)
@@ -221,7 +320,7 @@ FileLock::FileLock(std::shared_ptr<FileLayer> layer, const std::string& path)
         if (layer_->StatusOfFile(file.Get(), locked) != 0) {
             Fail(path, "cannot be locked");
         }
-        if (layer_->Status(path, present) == 0 && present.st_ino == locked.st_ino &&
+        if (LookAt(*layer_, path, present) && present.st_ino == locked.st_ino &&
             present.st_dev == locked.st_dev) {
             file_ = file.Release();
             return;

@@ -31,20 +31,29 @@ struct FileStamp {
 /// exist.
 std::string ResolvePath(const std::string& fileName);
 
+/// The stamp of what stands under the path now. Throws where the system does not tell.
 FileStamp StampOf(FileLayer& layer, const std::string& path);
 
-/// The content, and its stamp where one is wanted; false when there is no such file.
+/// The content, and its stamp where one is wanted; false when there is no such file. Folders,
+/// devices and pipes are no files, and one beyond a gigabyte is refused.
 bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& content,
                    FileStamp* stamp = nullptr);
 
 /// Writes a temporary file in the same folder, flushes it to disk, renames it over the old file,
-/// whose mode it takes on, and flushes the folder. The path must be a resolved one. Gives the stamp
-/// of the new file.
+/// whose mode, owner and group it takes on as far as the process may, and flushes the folder. The
+/// path must be a resolved one. Gives the stamp of the new file.
 FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path, std::string_view content);
 
-/// Moves a file to the first free of the names "FILE.unreadable-1", "-2", ... and gives the new
-/// name.
-std::string SetFileAside(FileLayer& layer, const std::string& path);
+/// Where an old file went, and the stamp of the one that stands in its place.
+struct SetAsideFile {
+    std::string movedTo;
+    FileStamp stamp;
+};
+
+/// Puts the old file under the first free of the names "FILE.unreadable-1", "-2", ... and a new one
+/// in its place. At no moment is there no file under the path. `old` is what the file holds.
+SetAsideFile SetAsideAndWrite(FileLayer& layer, const std::string& path, std::string_view old,
+                              std::string_view content);
 
 /// Holds the lock on a file that this library's processes take before they read it in order to
 /// write it. Makes an empty file where there is none, since the lock is the file's own. Waits up to

@@ -42,6 +42,10 @@ int FileLayer::ChangeMode(int file, mode_t mode) {
     return ::fchmod(file, mode);
 }
 
+int FileLayer::ChangeOwner(int file, uid_t owner, gid_t group) {
+    return ::fchown(file, owner, group);
+}
+
 int FileLayer::StatusOfFile(int file, struct stat& status) {
     return ::fstat(file, &status);
 }
@@ -62,9 +66,8 @@ int FileLayer::Rename(const std::string& from, const std::string& to) {
     return ::rename(from.c_str(), to.c_str());
 }
 
-int FileLayer::RenameToNew(const std::string& from, const std::string& to) {
-    // A hard link refuses a name that is taken, on every system; the old name goes afterwards.
-    return ::link(from.c_str(), to.c_str()) == 0 ? ::unlink(from.c_str()) : -1;
+int FileLayer::Link(const std::string& from, const std::string& to) {
+    return ::link(from.c_str(), to.c_str());
 }
 
 int FileLayer::Remove(const std::string& path) {

@@ -30,6 +30,7 @@ public:
     virtual int Sync(int file);
     virtual int Close(int file);
     virtual int ChangeMode(int file, mode_t mode);
+    virtual int ChangeOwner(int file, uid_t owner, gid_t group);
     virtual int StatusOfFile(int file, struct stat& status);
     virtual int Status(const std::string& path, struct stat& status);
     /// Takes the exclusive lock on an open file without waiting.
@@ -37,8 +38,8 @@ public:
     /// Waits a millisecond for whoever holds the lock.
     virtual void Pause();
     virtual int Rename(const std::string& from, const std::string& to);
-    /// As Rename(), but fails with EEXIST where there is something under the new name.
-    virtual int RenameToNew(const std::string& from, const std::string& to);
+    /// Gives a file a second name; fails with EEXIST where there is something under it.
+    virtual int Link(const std::string& from, const std::string& to);
     virtual int Remove(const std::string& path);
 };
 

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "kvopt/text/exceptions.h"
-#include "stores/ini_text.h"
 
 namespace kvopt {
 
@@ -23,16 +22,23 @@ void IniFile::Refresh() {
     if (path_.empty() || !HasFileChanged()) {
         return;
     }
+    FileStamp stamp;
+    Text text = ReadText(stamp);
     try {
-        Load();
+        Use(text, ini::Parse(*text, path_));
+        BeAtOneWith(std::move(text), stamp);
     } catch (const FileFormatError& unreadable) {
-        // Only the holder of the lock may move the file: another process may have put a good one
+        // Only the holder of the lock may replace the file: another process may have put a good one
         // in its place by now.
         try {
             const FileLock lock(layer_, path_);
             LoadOrSetAside();
         } catch (const FileError& error) {
-            Block(std::string(unreadable.what()) + "; " + error.Reason());
+            Use(text, ini::ParseWhatIsReadable(*text));
+            BeAtOneWith(std::move(text), stamp);
+            isBlocked_ = true;
+            troubles_.push_back({StoreTrouble::Kind::SetAside, path_, "",
+                                 std::string(unreadable.what()) + "; " + error.Reason()});
         }
         TellTroubles();
     }
@@ -51,39 +57,46 @@ bool IniFile::HasFileChanged() const {
     return stamp != stamp_ && (stamp.size != 0 || stamp_.size != 0);
 }
 
-void IniFile::Load() {
-    auto text = std::make_shared<std::string>();
-    FileStamp stamp;
-    ReadWholeFile(*layer_, path_, *text, &stamp);
-    ini::Document document = ini::Parse(*text, path_);
+IniFile::Text IniFile::ReadText(FileStamp& stamp) const {
+    std::string text;
+    ReadWholeFile(*layer_, path_, text, &stamp);
+    return std::make_shared<const std::string>(std::move(text));
+}
+
+// The document points into the text.
+void IniFile::Use(Text text, ini::Document document) {
     Replace(std::move(document.root));
     tail_ = document.tail;
     text_ = std::move(text);
-    onDisk_ = text_;
+}
+
+void IniFile::BeAtOneWith(Text onDisk, const FileStamp& stamp) {
+    onDisk_ = std::move(onDisk);
     stamp_ = stamp;
     isBlocked_ = false;
 }
 
+// Under the lock. The stamp is not asked: two writes within one tick of the system's clock may
+// leave one that looks the same.
 void IniFile::LoadOrSetAside() {
-    try {
-        Load();
-    } catch (const FileFormatError& unreadable) {
-        std::string movedTo;
-        try {
-            movedTo = SetFileAside(*layer_, path_);
-        } catch (const FileError& error) {
-            Block(std::string(unreadable.what()) + "; " + error.Reason());
-            return;
-        }
-        Load();
-        troubles_.push_back({StoreTrouble::Kind::SetAside, path_, movedTo, unreadable.what()});
+    FileStamp stamp;
+    Text text = ReadText(stamp);
+    if (!isBlocked_ && onDisk_ != nullptr && *onDisk_ == *text) {
+        stamp_ = stamp;
+        return;
     }
-}
-
-void IniFile::Block(const std::string& reason) {
-    isBlocked_ = true;
-    stamp_ = StampOf(*layer_, path_);
-    troubles_.push_back({StoreTrouble::Kind::SetAside, path_, "", reason});
+    try {
+        Use(text, ini::Parse(*text, path_));
+        BeAtOneWith(std::move(text), stamp);
+    } catch (const FileFormatError& unreadable) {
+        ini::Document readable = ini::ParseWhatIsReadable(*text);
+        Text kept = std::make_shared<const std::string>(ini::Print(*readable.root, readable.tail));
+        SetAsideFile file = SetAsideAndWrite(*layer_, path_, *text, *kept);
+        Use(std::move(text), std::move(readable));
+        BeAtOneWith(std::move(kept), file.stamp);
+        troubles_.push_back(
+            {StoreTrouble::Kind::SetAside, path_, std::move(file.movedTo), unreadable.what()});
+    }
 }
 
 void IniFile::Flush() {
@@ -105,14 +118,9 @@ void IniFile::Flush() {
 
 void IniFile::WriteThrough() {
     const FileLock lock(layer_, path_);
-    if (HasFileChanged()) {
-        LoadOrSetAside();
-    }
-    if (isBlocked_) {
-        throw FileError(path_, "is no ini file and could not be set aside");
-    }
-    auto text = std::make_shared<const std::string>(ini::Print(Root(), tail_));
-    if (onDisk_ == nullptr || *onDisk_ != *text) {
+    LoadOrSetAside();
+    Text text = std::make_shared<const std::string>(ini::Print(Root(), tail_));
+    if (*onDisk_ != *text) {
         stamp_ = WriteFileAtomically(*layer_, path_, *text);
         onDisk_ = std::move(text);
     }

@@ -7,6 +7,7 @@
 
 #include "kvopt/stores/store_trouble.h"
 #include "stores/file_access.h"
+#include "stores/ini_text.h"
 #include "stores/section_store.h"
 
 namespace kvopt {
@@ -23,15 +24,19 @@ public:
     ~IniFile() override;
 
     /// Reads the file where it changed since the last look, keeping what was changed here. A file
-    /// that is no ini file is set aside. Throws FileError when the file cannot be read.
+    /// that is no ini file is set aside, and what could be read of it goes on. Throws FileError
+    /// when the file cannot be read.
     void Refresh();
     void Flush() override;
 
 private:
+    using Text = std::shared_ptr<const std::string>;
+
     bool HasFileChanged() const;
-    void Load();
+    Text ReadText(FileStamp& stamp) const;
+    void Use(Text text, ini::Document document);
+    void BeAtOneWith(Text onDisk, const FileStamp& stamp);
     void LoadOrSetAside();
-    void Block(const std::string& reason);
     void WriteThrough();
     void TellTroubles();
 
@@ -40,10 +45,10 @@ private:
     FileStamp stamp_;
     // The present tree points into the text that was read last; the file may since have been
     // written.
-    std::shared_ptr<const std::string> text_;
-    std::shared_ptr<const std::string> onDisk_;
+    Text text_;
+    Text onDisk_;
     std::string_view tail_;
-    // A file that could neither be parsed nor moved away: nothing is written over it.
+    // A file that could neither be parsed nor set aside yet: nothing is written over it.
     bool isBlocked_ = false;
     // Told when the lock is released: the handler may show a box and take its time.
     std::vector<StoreTrouble> troubles_;

@@ -1,8 +1,11 @@
 #include "stores/ini_text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <utility>
+#include <vector>
 
 #include "kvopt/text/exceptions.h"
 #include "kvopt/text/kv_string.h"
@@ -101,7 +104,7 @@ class Parser {
 public:
     Parser(std::string_view text, std::string_view fileName) : text_(text), fileName_(fileName) {}
 
-    Document Parse() {
+    Document Parse(bool passOverDamage) {
         root_ = std::make_unique<SectionNode>("", 1, nullptr);
         section_ = root_.get();
         std::size_t at = text_.substr(0, kByteOrderMark.size()) == kByteOrderMark ? 3 : 0;
@@ -110,23 +113,41 @@ public:
             ++lineNumber_;
             const std::size_t end = text_.find('\n', at);
             const std::size_t next = end == std::string_view::npos ? text_.size() : end + 1;
-            ReadLine(at, next);
+            try {
+                ReadLine(at, next);
+            } catch (const FileFormatError&) {
+                if (!passOverDamage) {
+                    throw;
+                }
+                PassOver(at, next);
+            }
             at = next;
         }
         return {std::move(root_), text_.substr(above_)};
     }
 
 private:
-    // A line with its end; the end is left off what is read from it.
+    // Of a line with its end, what is read from it.
+    static std::string_view ContentOf(std::string_view line) {
+        if (!line.empty() && line.back() == '\n') {
+            line.remove_suffix(1);
+        }
+        if (!line.empty() && line.back() == '\r') {
+            line.remove_suffix(1);
+        }
+        return line;
+    }
+
+    void PassOver(std::size_t begin, std::size_t end) {
+        if (Trim(ContentOf(text_.substr(begin, end - begin))).substr(0, 1) == "[") {
+            section_ = nullptr;
+        }
+        above_ = end;
+    }
+
     void ReadLine(std::size_t begin, std::size_t end) {
         const std::string_view line = text_.substr(begin, end - begin);
-        std::string_view content = line;
-        if (!content.empty() && content.back() == '\n') {
-            content.remove_suffix(1);
-        }
-        if (!content.empty() && content.back() == '\r') {
-            content.remove_suffix(1);
-        }
+        std::string_view content = ContentOf(line);
         if (content.find('\0') != std::string_view::npos) {
             Fail("text", "a NUL character");
         }
@@ -145,12 +166,16 @@ private:
                 section_->line = line;
                 section_->linesAbove = linesAbove;
                 section_->hasHeader = true;
+                section_->place = lineNumber_;
             }
             return;
         }
         const std::size_t equals = content.find('=');
         if (equals == std::string_view::npos) {
             Fail("a section, a key with \"=\" or a comment", Quote(content));
+        }
+        if (section_ == nullptr) {
+            return;
         }
         StoredKey& key = section_->OpenKey(UnescapeName(Trim(content.substr(0, equals))));
         if (!key.line.empty()) {
@@ -164,11 +189,11 @@ private:
         key.linesAbove = linesAbove;
     }
 
+    // The sections are made when the whole header was read.
     void ReadHeader(std::string_view rest) {
-        section_ = root_.get();
-        std::size_t depth = 0;
+        steps_.clear();
         while (!rest.empty()) {
-            if (++depth > kDeepestSection) {
+            if (steps_.size() == kDeepestSection) {
                 Fail("at most " + std::to_string(kDeepestSection) + " names", "more");
             }
             const std::size_t close = rest.find(']');
@@ -184,8 +209,12 @@ private:
                 }
                 name = name.substr(0, mark);
             }
-            section_ = &section_->OpenChild(UnescapeName(Trim(name)), number);
+            steps_.emplace_back(name, number);
             rest = Trim(rest.substr(close + 1));
+        }
+        section_ = root_.get();
+        for (const auto& [name, number] : steps_) {
+            section_ = &section_->OpenChild(UnescapeName(Trim(name)), number);
         }
     }
 
@@ -203,7 +232,9 @@ private:
     std::string_view text_;
     std::string_view fileName_;
     std::unique_ptr<SectionNode> root_;
+    // Null below a header that cannot be read.
     SectionNode* section_ = nullptr;
+    std::vector<std::pair<std::string_view, int>> steps_;
     int lineNumber_ = 0;
     // Where the comment and blank lines begin that stand above the next key or header.
     std::size_t above_ = 0;
@@ -217,19 +248,65 @@ void AppendLines(std::string& text, std::string_view lines) {
     }
 }
 
-// `header` is the section's own; it is put back before the return.
-void PrintSection(std::string& text, const SectionNode& section, std::string& header) {
-    const bool isRoot = section.Parent() == nullptr;
-    if (!isRoot && (section.hasHeader || section.isNew || !section.Keys().empty())) {
-        AppendLines(text, section.linesAbove);
-        if (section.line.empty()) {
-            text += text.empty() ? "" : "\n";
-            text += header;
-            text += '\n';
-        } else {
-            AppendLines(text, section.line);
+// A section that has a header to print, and where.
+struct Placed {
+    const SectionNode* section;
+    int place;
+};
+
+// The places that the sections at and below one had in the file; 0 where none had any.
+struct Extent {
+    int first = 0;
+    int last = 0;
+
+    void Add(int place) {
+        if (place != 0) {
+            first = first == 0 ? place : std::min(first, place);
+            last = std::max(last, place);
         }
     }
+};
+
+// A section that stood in the file keeps its place there, which need not be beside the one around
+// it. A new one stands before what lies inside it, after what lies beside it in the same section,
+// or else at the place given.
+Extent Place(const SectionNode& section, int otherwise, std::vector<Placed>& sections) {
+    const std::size_t index = sections.size();
+    const bool isRoot = section.Parent() == nullptr;
+    const bool isPrinted =
+        !isRoot && (section.hasHeader || section.isNew || !section.Keys().empty());
+    if (isPrinted) {
+        sections.push_back({&section, section.place});
+    }
+    Extent extent;
+    extent.Add(section.place);
+    for (const std::unique_ptr<SectionNode>& child : section.Children()) {
+        const int beside = isRoot || extent.last == 0 ? otherwise : extent.last;
+        const Extent inside = Place(*child, beside, sections);
+        extent.Add(inside.first);
+        extent.Add(inside.last);
+    }
+    if (isPrinted && section.place == 0) {
+        sections[index].place = extent.first != 0 ? extent.first : otherwise;
+    }
+    return extent;
+}
+
+void AppendHeader(std::string& text, const SectionNode& section) {
+    if (section.Parent() == nullptr) {
+        return;
+    }
+    AppendHeader(text, *section.Parent());
+    text += '[';
+    AppendName(text, section.Name());
+    if (section.Number() != 1) {
+        text += ';';
+        text += std::to_string(section.Number());
+    }
+    text += ']';
+}
+
+void PrintKeys(std::string& text, const SectionNode& section) {
     AppendLines(text, section.linesBelow);
     for (const StoredKey& key : section.Keys()) {
         AppendLines(text, key.linesAbove);
@@ -242,18 +319,18 @@ void PrintSection(std::string& text, const SectionNode& section, std::string& he
         AppendValue(text, key.text);
         text += '\n';
     }
-    for (const std::unique_ptr<SectionNode>& child : section.Children()) {
-        const std::size_t length = header.size();
-        header += '[';
-        AppendName(header, child->Name());
-        if (child->Number() != 1) {
-            header += ';';
-            header += std::to_string(child->Number());
-        }
-        header += ']';
-        PrintSection(text, *child, header);
-        header.resize(length);
+}
+
+void PrintSection(std::string& text, const SectionNode& section) {
+    AppendLines(text, section.linesAbove);
+    if (section.line.empty()) {
+        text += text.empty() ? "" : "\n";
+        AppendHeader(text, section);
+        text += '\n';
+    } else {
+        AppendLines(text, section.line);
     }
+    PrintKeys(text, section);
 }
 
 }  // namespace
@@ -296,13 +373,24 @@ std::string Unescape(std::string_view text) {
 }
 
 Document Parse(std::string_view text, std::string_view fileName) {
-    return Parser(text, fileName).Parse();
+    return Parser(text, fileName).Parse(false);
+}
+
+Document ParseWhatIsReadable(std::string_view text) {
+    return Parser(text, "").Parse(true);
 }
 
 std::string Print(const SectionNode& root, std::string_view tail) {
+    constexpr int kAtTheEnd = std::numeric_limits<int>::max();
+    std::vector<Placed> sections;
+    Place(root, kAtTheEnd, sections);
+    std::stable_sort(sections.begin(), sections.end(),
+                     [](const Placed& a, const Placed& b) { return a.place < b.place; });
     std::string text;
-    std::string header;
-    PrintSection(text, root, header);
+    PrintKeys(text, root);
+    for (const Placed& placed : sections) {
+        PrintSection(text, *placed.section);
+    }
     AppendLines(text, tail);
     return text;
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "kvopt/export.h"
 #include "stores/section_node.h"
 
 namespace kvopt::ini {
@@ -26,10 +27,14 @@ struct Document {
 
 /// Reads a text; the tree points into it, so it has to outlive the tree. Throws FileFormatError,
 /// with the line, for a text that is no ini file.
-Document Parse(std::string_view text, std::string_view fileName);
+KVOPT_EXPORT Document Parse(std::string_view text, std::string_view fileName);
+
+/// The same of a damaged text, passing over lines that Parse() fails at, over the comments above
+/// them, and over the keys below a header that cannot be read, which may be of any section.
+KVOPT_EXPORT Document ParseWhatIsReadable(std::string_view text);
 
 /// The text of a tree: what was read and not written again stands as it stood, comments and order
 /// included.
-std::string Print(const SectionNode& root, std::string_view tail);
+KVOPT_EXPORT std::string Print(const SectionNode& root, std::string_view tail);
 
 }  // namespace kvopt::ini

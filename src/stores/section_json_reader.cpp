@@ -73,6 +73,20 @@ public:
 
     std::unique_ptr<SectionNode> TakeRoot() { return std::move(root_); }
 
+    // Ends what was begun.
+    std::unique_ptr<SectionNode> TakeWhatIsThere() {
+        while (root_ == nullptr && !frames_.empty()) {
+            Frame frame = std::move(frames_.back());
+            frames_.pop_back();
+            if (frame.place == Place::Section && frame.name && !IsTaken(frame)) {
+                HangIn(frame);
+            } else if (frame.place == Place::Document && frame.hasFormat && frame.hasVersion) {
+                root_ = std::move(frame.section);
+            }
+        }
+        return root_ != nullptr ? std::move(root_) : std::make_unique<SectionNode>("", 1, nullptr);
+    }
+
     bool null() { Fail("null"); }
     bool boolean(bool value) { Fail(value ? "true" : "false"); }
     bool number_integer(number_integer_t value) { Fail(std::to_string(value)); }
@@ -273,16 +287,22 @@ private:
         key.text = std::move(frame.parts[2]);
     }
 
+    // The section that the one of the frame, which is off the list already, goes into.
+    SectionNode& Around() const { return *frames_[frames_.size() - 2].section; }
+
+    bool IsTaken(const Frame& frame) const {
+        return Around().FindChild(*frame.name, frame.number) != nullptr;
+    }
+
     void HangIn(Frame& frame) {
-        SectionNode& around = *frames_[frames_.size() - 2].section;
         if (!frame.name) {
             FailExpecting("a section with a \"name\"", "one without");
         }
-        if (around.FindChild(*frame.name, frame.number) != nullptr) {
+        if (IsTaken(frame)) {
             FailExpecting("a name and number that no section beside it has",
                           Quoted(*frame.name) + ", " + std::to_string(frame.number));
         }
-        around.AdoptChild(std::move(frame.section), std::move(*frame.name), frame.number);
+        Around().AdoptChild(std::move(frame.section), std::move(*frame.name), frame.number);
         ++frames_.back().index;
     }
 
@@ -381,6 +401,16 @@ private:
 std::unique_ptr<SectionNode> Parse(std::string_view text, std::string_view fileName) {
     Reader reader(text, fileName);
     nlohmann::json::sax_parse(text.begin(), text.end(), &reader);
+    return reader.TakeRoot();
+}
+
+std::unique_ptr<SectionNode> ParseWhatIsReadable(std::string_view text) {
+    Reader reader(text, "");
+    try {
+        nlohmann::json::sax_parse(text.begin(), text.end(), &reader);
+    } catch (const FileFormatError&) {
+        return reader.TakeWhatIsThere();
+    }
     return reader.TakeRoot();
 }
 

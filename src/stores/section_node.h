@@ -76,6 +76,8 @@ public:
     std::string linesBelow;
     /// Whether the section stands in the ini file by itself, not only as part of a longer name.
     bool hasHeader = false;
+    /// The number of the header's line in the file; 0 for a section that the file does not hold.
+    int place = 0;
 
 private:
     std::string name_;

@@ -301,7 +301,7 @@ TEST(ConfigurationStore, CopiesShareOneTree) {
 
 TEST(ConfigurationStore, FollowsASymbolicLinkWhenItSaves) {
     const test::TemporaryFolder folder;
-    test::Spill(folder.File("plot.json"), "old");
+    test::Spill(folder.File("plot.json"), ConfigurationStore().Text());
     std::filesystem::create_symlink("plot.json", folder.File("link.json"));
     ConfigurationStore store;
     store.Save(folder.File("link.json"));

@@ -46,6 +46,9 @@ public:
     int ChangeMode(int file, mode_t mode) override {
         return Refused("ChangeMode") ? -1 : FileLayer::ChangeMode(file, mode);
     }
+    int ChangeOwner(int file, uid_t owner, gid_t group) override {
+        return Refused("ChangeOwner") ? -1 : FileLayer::ChangeOwner(file, owner, group);
+    }
     int StatusOfFile(int file, struct stat& status) override {
         return Refused("StatusOfFile") ? -1 : FileLayer::StatusOfFile(file, status);
     }
@@ -57,8 +60,8 @@ public:
     int Rename(const std::string& from, const std::string& to) override {
         return Refused("Rename") ? -1 : FileLayer::Rename(from, to);
     }
-    int RenameToNew(const std::string& from, const std::string& to) override {
-        return Refused("RenameToNew") ? -1 : FileLayer::RenameToNew(from, to);
+    int Link(const std::string& from, const std::string& to) override {
+        return Refused("Link") ? -1 : FileLayer::Link(from, to);
     }
     int Remove(const std::string& path) override {
         return Refused("Remove") ? -1 : FileLayer::Remove(path);
@@ -74,6 +77,12 @@ private:
     }
 
     Answer answer_;
+};
+
+/// Leaves out the flushes to disk, for tests that save thousands of times.
+class UnflushedLayer : public FileLayer {
+public:
+    int Sync(int) override { return 0; }
 };
 
 /// Runs a function in a process of its own and gives the status that waitpid() has of it.

@@ -1,5 +1,7 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -186,7 +188,7 @@ TEST_F(IniFileFaults, ShortWritesAndInterruptedCallsAreCarriedOn) {
 
 TEST_F(IniFileFaults, ABadFileThatCannotBeMovedIsNeverWrittenOver) {
     test::Spill(file_, "not an ini file\n");
-    IniFileFactory factory(LayerThatRefuses("RenameToNew", EACCES));
+    IniFileFactory factory(LayerThatRefuses("Link", EACCES));
     {
         const auto section = factory.GetIniFile(file_, "A");
         ASSERT_NE(section, nullptr);
@@ -207,6 +209,54 @@ TEST_F(IniFileFaults, ABadFileThatCannotBeMovedIsNeverWrittenOver) {
     EXPECT_EQ(test::Slurp(file_), "[A]\nRepaired=1\nKey=2\n");
 }
 
+TEST_F(IniFileFaults, ABadFileIsCopiedAsideWhereTheFileSystemHasNoSecondNames) {
+    for (const int error : {EPERM, ENOTSUP, ENOSYS, EMLINK}) {
+        const test::TemporaryFolder folder;
+        const std::string file = folder.File("study.ini");
+        test::Spill(file, "[A]\nKey=1\nnot a key\n");
+        test::Spill(file + ".unreadable-1", "an earlier one");
+        ASSERT_EQ(::chmod(file.c_str(), 0640), 0);
+        IniFileFactory(LayerThatRefuses("Link", error)).GetIniFile(file, "A");
+        EXPECT_EQ(test::Slurp(file), kOld);
+        EXPECT_EQ(test::Slurp(file + ".unreadable-1"), "an earlier one");
+        EXPECT_EQ(test::Slurp(file + ".unreadable-2"), "[A]\nKey=1\nnot a key\n");
+        struct stat status {};
+        ASSERT_EQ(::stat((file + ".unreadable-2").c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & 07777U, 0640U);
+    }
+    EXPECT_EQ(recorder_.troubles.size(), 4U);
+}
+
+// While a bad file is set aside, it stands whole under one of the two names.
+TEST_F(IniFileFaults, ABadFileIsNeverLostWhereverASetAsideFails) {
+    const std::string bad = "[A]\nKey=1\nnot a key\n";
+    for (const bool hasLinks : {true, false}) {
+        for (int call = 1; true; ++call) {
+            SCOPED_TRACE("call " + std::to_string(call));
+            const test::TemporaryFolder folder;
+            const std::string file = folder.File("study.ini");
+            test::Spill(file, bad);
+            const auto layer =
+                std::make_shared<test::AskingLayer>([&](const std::string& operation, int number) {
+                    return number == call ? EIO : operation == "Link" && !hasLinks ? EPERM : 0;
+                });
+            IniFileFactory(layer).GetIniFile(file, "A");
+            const std::string content = test::Slurp(file);
+            const std::string aside = test::Slurp(file + ".unreadable-1");
+            if (content == bad) {
+                EXPECT_THAT(folder.Names(), ElementsAre("study.ini"));
+            } else {
+                EXPECT_EQ(content, kOld);
+                EXPECT_EQ(aside, bad);
+            }
+            if (layer->calls < call) {
+                EXPECT_EQ(content, kOld);
+                break;
+            }
+        }
+    }
+}
+
 TEST_F(IniFileFaults, ABadFileThatCannotBeLockedIsLeftAndWorkGoesOn) {
     test::Spill(file_, "not an ini file\n");
     IniFileFactory factory(LayerThatRefuses("TryLock", ENOLCK));
@@ -225,6 +275,47 @@ TEST_F(IniFileFaults, AFileThatCannotBeReadGivesNoSectionAndIsTold) {
     EXPECT_EQ(recorder_.troubles.front().kind, StoreTrouble::Kind::NotRead);
     EXPECT_EQ(IniFileFactory().GetIniFile(folder_.Path(), "A"), nullptr) << "a folder";
     EXPECT_EQ(recorder_.troubles.size(), 2U);
+}
+
+TEST_F(IniFileFaults, KeepsTheOthersKeysWhenTheStampOfTheirFileIsTheOldOne) {
+    const auto section = IniFileFactory().GetIniFile(file_, "A");
+    struct stat status {};
+    ASSERT_EQ(::stat(file_.c_str(), &status), 0);
+    // As long as before, in the same place, and within the same tick of the clock.
+    test::Spill(file_, "[A]\nYek=7\n");
+    const timespec times[2] = {status.st_atim, status.st_mtim};
+    ASSERT_EQ(::utimensat(AT_FDCWD, file_.c_str(), times, 0), 0);
+    section->WriteKey("Mine", 2);
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[A]\nYek=7\nMine=2\n");
+}
+
+TEST_F(IniFileFaults, AFileThatCannotBeLookedAtIsNotTakenForNone) {
+    bool isFaulty = false;
+    IniFileFactory factory(
+        std::make_shared<test::AskingLayer>([&](const std::string& operation, int) {
+            return isFaulty && operation == "Status" ? EACCES : 0;
+        }));
+    const auto section = factory.GetIniFile(file_, "A");
+    isFaulty = true;
+    EXPECT_EQ(factory.GetIniFile(file_, "A"), nullptr);
+    section->WriteKey("Mine", 2);
+    section->Flush();
+    ASSERT_EQ(recorder_.troubles.size(), 2U);
+    EXPECT_EQ(recorder_.troubles.front().kind, StoreTrouble::Kind::NotRead);
+    EXPECT_EQ(recorder_.troubles.back().kind, StoreTrouble::Kind::NotWritten);
+    EXPECT_EQ(test::Slurp(file_), kOld);
+    isFaulty = false;
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "[A]\nKey=1\nMine=2\n");
+}
+
+TEST_F(IniFileFaults, AFileBeyondAGigabyteIsRefusedBeforeItIsRead) {
+    ASSERT_EQ(::truncate(file_.c_str(), (off_t{1} << 30) + 1), 0);
+    EXPECT_EQ(IniFileFactory().GetIniFile(file_, "A"), nullptr);
+    ASSERT_EQ(recorder_.troubles.size(), 1U);
+    EXPECT_THAT(recorder_.troubles.front().reason,
+                HasSubstr(std::generic_category().message(EFBIG)));
 }
 
 TEST_F(IniFileFaults, KeepsTheModeOfTheFile) {

@@ -4,6 +4,7 @@
 #include <sys/file.h>
 
 #include <chrono>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -49,11 +50,11 @@ protected:
     test::TroubleRecorder recorder_;
 };
 
-TEST_F(IniFileProcesses, TwoThatWriteAThousandKeysEachLoseNone) {
+TEST_F(IniFileProcesses, FourThatWriteAThousandKeysEachLoseNone) {
     constexpr int kKeys = 1000;
-    constexpr int kKeysPerFlush = 20;
+    const int kKeysPerFlush = test::AmountOf("KVOPT_TEST_KEYS_PER_FLUSH", 50);
     const auto writer = [&](const std::string& prefix) {
-        return [this, prefix] {
+        return [this, prefix, kKeysPerFlush] {
             IniFileFactory factory;
             const auto section = factory.GetIniFile(file_, "Factors");
             for (int i = 0; i < kKeys; ++i) {
@@ -65,16 +66,25 @@ TEST_F(IniFileProcesses, TwoThatWriteAThousandKeysEachLoseNone) {
             section->Flush();
         };
     };
-    Process one(writer("One"));
-    Process two(writer("Two"));
-    EXPECT_EQ(one.Wait(), 0);
-    EXPECT_EQ(two.Wait(), 0);
-    const auto section = IniFileFactory().GetIniFile(file_, "Factors");
-    EXPECT_EQ(section->KeyNames().size(), 2U * kKeys);
-    for (int i = 0; i < kKeys; ++i) {
-        EXPECT_EQ(section->ReadKeyOr(("One" + std::to_string(i)).c_str(), -1), i);
-        EXPECT_EQ(section->ReadKeyOr(("Two" + std::to_string(i)).c_str(), -1), i);
+    const std::vector<std::string> names = {"One", "Two", "Three", "Four"};
+    {
+        std::vector<std::unique_ptr<Process>> writers;
+        for (const std::string& name : names) {
+            writers.push_back(std::make_unique<Process>(writer(name)));
+        }
+        for (const std::unique_ptr<Process>& process : writers) {
+            EXPECT_EQ(process->Wait(), 0);
+        }
     }
+    const auto section = IniFileFactory().GetIniFile(file_, "Factors");
+    EXPECT_EQ(section->KeyNames().size(), names.size() * kKeys);
+    int lost = 0;
+    for (const std::string& name : names) {
+        for (int i = 0; i < kKeys; ++i) {
+            lost += section->ReadKeyOr((name + std::to_string(i)).c_str(), -1) == i ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(lost, 0);
     EXPECT_THAT(folder_.Names(), ElementsAre("study.ini"));
 }
 

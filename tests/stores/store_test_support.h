@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "kvopt/stores.h"
+#include "kvopt/text.h"
 
 namespace kvopt::test {
 
@@ -47,6 +49,17 @@ public:
 private:
     std::filesystem::path path_;
 };
+
+/// How much of something a test does: as told by a variable of the environment, or else little
+/// enough for every day.
+inline int AmountOf(const char* variable, int usual) {
+    const char* const text = std::getenv(variable);
+    int amount = usual;
+    if (text != nullptr) {
+        KvString::ToInt(text, amount);
+    }
+    return amount;
+}
 
 inline std::string Slurp(const std::string& path) {
     std::ifstream file(path, std::ios::binary);

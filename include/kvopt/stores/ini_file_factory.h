@@ -31,7 +31,7 @@ public:
     /// from where SetSection() leads on. The file need not exist, its folder must. Null when the
     /// file cannot be had: an empty file name, a folder that is not there, a file that cannot be
     /// read. A file that is no ini file is set aside under a new name, the store trouble handler is
-    /// told, and the section begins empty. Reading never writes the file.
+    /// told, and what could be read of it is written in its place. Reading writes nothing else.
     virtual std::unique_ptr<IniFileSection> GetIniFile(const std::string& fileName,
                                                        const std::string& section);
 

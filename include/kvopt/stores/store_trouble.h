@@ -11,14 +11,16 @@ namespace kvopt {
 /// the work goes on.
 struct StoreTrouble {
     enum class Kind {
-        SetAside,    ///< the file could not be parsed and was moved; the store began empty
+        /// the file could not be parsed and was set aside; the store went on with what could be
+        /// read of it
+        SetAside,
         NotRead,     ///< the file is there but could not be read
         NotWritten,  ///< changes could not be written; they are kept for the next time
     };
 
     Kind kind = Kind::NotRead;
     std::string file;
-    /// Where a file that was set aside went; empty when it could not be moved. It is then left as
+    /// Where a file that was set aside went; empty when that was not possible. It is then left as
     /// it is, and nothing is written over it.
     std::string movedTo;
     std::string reason;
