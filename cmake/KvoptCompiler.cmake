@@ -3,6 +3,7 @@
 option(KVOPT_WERROR "Treat warnings as errors" ON)
 option(KVOPT_TIDY "Run clang-tidy on the sources of the libraries" OFF)
 option(KVOPT_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
+option(KVOPT_FUZZ "Build the fuzz targets, and the libraries for them; needs clang" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -25,10 +26,13 @@ target_compile_options(kvopt_options INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(kvopt_options INTERFACE -Wno-restrict)
 endif()
-if(KVOPT_SANITIZE)
+if(KVOPT_SANITIZE OR KVOPT_FUZZ)
     target_compile_options(kvopt_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(kvopt_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KVOPT_FUZZ)
+    target_compile_options(kvopt_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # kvopt_library(NAME FOLDER...): a shared library of every source below the folders. A folder

@@ -1,0 +1,106 @@
+// One line for each class with a ReadSection; tests/fuzz tells when one is missing.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "fuzz/targets.h"
+#include "kvopt/host.h"
+#include "kvopt/plotargs.h"
+#include "kvopt/selection.h"
+#include "kvopt/study.h"
+#include "kvopt/text/exceptions.h"
+
+namespace kvopt::fuzz {
+namespace {
+
+// A study with process and mixture factors, without an ini file.
+ReferenceStudy& Study() {
+    static ReferenceStudy study(
+        ReadStudyFile(KVOPT_SOURCE_DIR "/examples/studies/vinyl-thickness-mixture-process.json"));
+    return study;
+}
+
+template <class Helper, class Value>
+void ReadEnum(const ConfigurationSection& section, Value value) {
+    Helper::ReadSection(&section, value);
+    Helper::GetString(value);
+}
+
+void ReadEnums(const ConfigurationSection& section) {
+    ReadEnum<CConfLev>(section, CConfLev::Unknown);
+    ReadEnum<CIntervalType>(section, CIntervalType::Unknown);
+    ReadEnum<CAlphaLev>(section, CAlphaLev::Unknown);
+    ReadEnum<CCoeff>(section, CCoeff::Unknown);
+    ReadEnum<CCoeffList>(section, CCoeffList::Unknown);
+    ReadEnum<CR2Opt>(section, CR2Opt::Unknown);
+    ReadEnum<CNumberFormat>(section, CNumberFormat::Unknown);
+    ReadEnum<CResid>(section, CResid::Unknown);
+    ReadEnum<CEVecType>(section, CEVecType::NotChosen);
+}
+
+void ReadAxis(const ConfigurationSection& section) {
+    AxisInfoImpl axis;
+    if (axis.ReadSection(&section)) {
+        ConfigurationStore store;
+        axis.WriteSection(store.Root().get());
+        Require(AxisInfoImpl().ReadSection(store.Root().get()), "an axis is not read back");
+    }
+}
+
+void ReadResponses(const ConfigurationSection& section) {
+    std::vector<std::string> responses;
+    bool allSelected = false;
+    auto type = SelectResponseBase::Ordinary;
+    SelectResponseBase::ReadSection(&section, responses, allSelected, type);
+    SelectResponses(&Study(), true).Read(&section);
+}
+
+// What was read can be written and read again, or is told to be no plot.
+void ReadContourPlot(const ConfigurationSection& section, bool isDesignSpace) {
+    const auto fresh = [isDesignSpace] {
+        return std::make_unique<ContourPlotData>(&Study(), 8, "", isDesignSpace, isDesignSpace,
+                                                 false, false);
+    };
+    const std::unique_ptr<ContourPlotData> plot = fresh();
+    ConfigurationStore store;
+    try {
+        if (!plot->ReadSection(&section)) {
+            return;
+        }
+        plot->WriteSection(store.Root().get());
+    } catch (const InvalidArgument&) {
+        return;
+    }
+    Require(fresh()->ReadSection(store.Root().get()), "a contour plot is not read back");
+}
+
+class AnyPlotData : public WizardPlotData {
+public:
+    AnyPlotData() : WizardPlotData(&Study(), 1, 5, 8, "") {}
+    int GetUsedAxisIx() const override { return 1; }
+};
+
+void ReadAnyPlot(const ConfigurationSection& section) {
+    for (int type = 0; type <= 4; ++type) {
+        AnyPlotData().ReadSection(&section, static_cast<WizardPlotData::PlotAxisType>(type), 1, 5);
+    }
+}
+
+void ReadContourPage(const ConfigurationSection& section) {
+    ContourPageData(&Study(), false, false, false, false).ReadSection(&section);
+}
+
+}  // namespace
+
+void ReadEverything(const ConfigurationSection& section) {
+    ReadEnums(section);
+    ReadAxis(section);
+    ReadResponses(section);
+    ReadContourPage(section);
+    ReadAnyPlot(section);
+    ReadContourPlot(section, false);
+    ReadContourPlot(section, true);
+}
+
+}  // namespace kvopt::fuzz
