@@ -3,4 +3,5 @@
 /// \file
 /// How a design space is simulated and shown.
 
+#include "kvopt/designspace/ds_contour_plot_options_page.h"
 #include "kvopt/designspace/risk_presentation_enum.h"

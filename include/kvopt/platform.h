@@ -26,6 +26,7 @@
 #include "kvopt/platform/kv_dont_show_again_message_box.h"
 #include "kvopt/platform/kv_property_page.h"
 #include "kvopt/platform/kv_property_sheet.h"
+#include "kvopt/platform/kv_range_edit.h"
 #include "kvopt/platform/list_box.h"
 #include "kvopt/platform/message_map.h"
 #include "kvopt/platform/mnemonic.h"

@@ -22,6 +22,9 @@ std::unique_ptr<CControl> MakeList(CDialog& dialog, const ControlTemplate& what)
 std::unique_ptr<CControl> MakeControl(CDialog& dialog, const ControlTemplate& what) {
     switch (what.kind) {
         case ControlKind::Edit:
+            if (what.ranged) {
+                return std::make_unique<KvRangeEdit>(dialog, what);
+            }
             return std::make_unique<CEdit>(dialog, what);
         case ControlKind::ComboList:
         case ControlKind::ComboEdit:

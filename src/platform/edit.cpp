@@ -32,6 +32,9 @@ std::wstring WithoutNewNonDigits(std::wstring_view before, std::wstring_view aft
 
 }  // namespace
 
+CEdit::CEdit(CDialog& dialog, const ControlTemplate& what)
+    : CControl(dialog, what), digitsOnly_(what.digitsOnly) {}
+
 void CEdit::SetText(std::wstring_view text) {
     CWnd::SetText(text);
     Notify(Notification::Changed);
@@ -45,7 +48,7 @@ void CEdit::ExchangeText(std::wstring_view text) {
 
 bool CEdit::UserEdit(std::wstring_view text) {
     return Act([&] {
-        if (!Template().digitsOnly) {
+        if (!digitsOnly_) {
             SetText(text);
             return true;
         }

@@ -66,6 +66,12 @@ LayoutItem Edit(int number) {
     return Control(ControlKind::Edit, number);
 }
 
+LayoutItem RangeEdit(int number) {
+    LayoutItem item = Edit(number);
+    item.control.ranged = true;
+    return item;
+}
+
 LayoutItem ComboList(int number) {
     return Control(ControlKind::ComboList, number);
 }

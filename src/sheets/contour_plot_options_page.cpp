@@ -1,10 +1,10 @@
 #include "kvopt/sheets/contour_plot_options_page.h"
 
-#include <boost/lexical_cast.hpp>
-
 #include "kvopt/platform.h"
 #include "kvopt/plotargs/contour_page_data.h"
 #include "kvopt/text.h"
+#include "sheets/page_checks.h"
+#include "sheets/plot_resolution.h"
 #include "sheets_texts.h"
 
 namespace kvopt {
@@ -16,12 +16,6 @@ constexpr int kShowLabels = 6027;
 constexpr int kEqualScale = 6029;
 constexpr int kResolution = 6046;
 constexpr int kLockLevels = 6223;
-
-constexpr int kFirstProcessResolution = 16;
-constexpr int kFirstMixtureResolution = 64;
-constexpr int kLastOfferedResolution = 256;
-constexpr int kLowestResolution = 16;
-constexpr int kHighestResolution = 1024;
 
 }  // namespace
 
@@ -44,38 +38,17 @@ void ContourPlotOptionsPage::GetMessageMap(MessageMap& map) {
 bool ContourPlotOptionsPage::OnInitDialog() {
     KvPropertyPage::OnInitDialog();
     const ContourPageData::Arguments& options = data_.GetOptions();
-    auto* combo = Item<CComboBox>(kResolution);
-    combo->ResetContent();
-    for (int offered = options.mixtureMode ? kFirstMixtureResolution : kFirstProcessResolution;
-         offered <= kLastOfferedResolution; offered *= 2) {
-        combo->AddString(boost::lexical_cast<std::wstring>(offered));
-    }
-    const int present = options.mixtureMode ? options.mixtureResolution : options.resolution;
-    if (present != -1) {
-        combo->SetText(boost::lexical_cast<std::wstring>(present));
-    }
-    SetCheckIfThere(kUseColor, options.useColor);
-    SetCheckIfThere(kShowLabels, options.useContourLabels);
-    SetCheckIfThere(kEqualScale, options.scaleEqual);
-    SetCheckIfThere(kLockLevels, options.lockContourLevels);
+    ShowResolution(*Item<CComboBox>(kResolution), options);
+    SetCheckIfThere(*this, kUseColor, options.useColor);
+    SetCheckIfThere(*this, kShowLabels, options.useContourLabels);
+    SetCheckIfThere(*this, kEqualScale, options.scaleEqual);
+    SetCheckIfThere(*this, kLockLevels, options.lockContourLevels);
     return true;
 }
 
 bool ContourPlotOptionsPage::OnSetActive() {
     UpdateEnable();
     return KvPropertyPage::OnSetActive();
-}
-
-void ContourPlotOptionsPage::SetCheckIfThere(int control, bool checked) {
-    if (auto* button = Item<CButton>(control)) {
-        button->SetCheck(checked);
-    }
-}
-
-void ContourPlotOptionsPage::GetCheckIfThere(int control, bool& checked) const {
-    if (const auto* button = Item<CButton>(control)) {
-        checked = button->GetCheck();
-    }
 }
 
 void ContourPlotOptionsPage::UpdateEnable() {
@@ -106,22 +79,15 @@ bool ContourPlotOptionsPage::Refuse(const std::wstring& message) {
 
 bool ContourPlotOptionsPage::OnApply() {
     if (IsChanged()) {
-        int resolution = 0;
-        if (!KvString::ToInt(Item<CComboBox>(kResolution)->GetText(), resolution)) {
-            return Refuse(texts::kResolutionNotNumber.Wide());
-        }
-        if (resolution < kLowestResolution) {
-            return Refuse(texts::kResolutionTooLow.Wide());
-        }
-        if (resolution > kHighestResolution) {
-            return Refuse(texts::kResolutionTooHigh.Wide());
-        }
         ContourPageData::Arguments& options = data_.GetOptions();
-        (options.mixtureMode ? options.mixtureResolution : options.resolution) = resolution;
-        GetCheckIfThere(kUseColor, options.useColor);
-        GetCheckIfThere(kEqualScale, options.scaleEqual);
-        GetCheckIfThere(kShowLabels, options.useContourLabels);
-        GetCheckIfThere(kLockLevels, options.lockContourLevels);
+        if (const PlainText* refusal =
+                TakeResolution(*Item<CComboBox>(kResolution), texts::kResolutionTooHigh, options)) {
+            return Refuse(refusal->Wide());
+        }
+        GetCheckIfThere(*this, kUseColor, options.useColor);
+        GetCheckIfThere(*this, kEqualScale, options.scaleEqual);
+        GetCheckIfThere(*this, kShowLabels, options.useContourLabels);
+        GetCheckIfThere(*this, kLockLevels, options.lockContourLevels);
         data_.SaveRegistrySettings();
     }
     return KvPropertyPage::OnApply();

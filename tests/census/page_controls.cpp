@@ -67,6 +67,11 @@ const Controls kContourOptions{{6046, ControlKind::ComboEdit},
                                {6029, ControlKind::Check},
                                {6223, ControlKind::Check}};
 
+const Controls kDesignSpaceOptions{{6046, ControlKind::ComboEdit}, {6022, ControlKind::Check},
+                                   {6027, ControlKind::Check},     {6272, ControlKind::Edit},
+                                   {6284, ControlKind::Check},     {6296, ControlKind::Check},
+                                   {6343, ControlKind::Label},     {6327, ControlKind::Edit}};
+
 }  // namespace
 
 std::vector<int> AllTemplateNumbers() {
@@ -107,7 +112,9 @@ const std::vector<PageOfTemplate>& PagesOfTemplates() {
          {{6344, ControlKind::ComboList},
           {6299, ControlKind::ComboList},
           {6341, ControlKind::ComboList},
-          {6351, ControlKind::Label}}}};
+          {6351, ControlKind::Label}}},
+        // A design space plot has no levels to lock.
+        {"DSContourPlotOptionsPage", 6221, kDesignSpaceOptions, {6223}}};
     return pages;
 }
 
@@ -125,7 +132,8 @@ const std::vector<PageSources>& SourcesOfPages() {
         {"ContourPage", {"selection/multiple_response_page.cpp", "sheets/contour_page.cpp"}},
         {"ContourPlotOptionsPage", {"sheets/contour_plot_options_page.cpp"}},
         {"ConfidenceLevelPage", {"statpages/confidence_level_page.cpp"}},
-        {"PredictionLevelPage", {"statpages/prediction_level_page.cpp"}}};
+        {"PredictionLevelPage", {"statpages/prediction_level_page.cpp"}},
+        {"DSContourPlotOptionsPage", {"designspace/ds_contour_plot_options_page.cpp"}}};
     return sources;
 }
 

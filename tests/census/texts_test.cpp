@@ -106,7 +106,7 @@ const std::map<std::string, CompiledFormat>& CompiledFormats() {
         KVOPT_FORMAT(kSelectItemsHeading), KVOPT_FORMAT(kSelectHeading),
         KVOPT_FORMAT(kAvailableLabel),     KVOPT_FORMAT(kSelectedLabel),
         KVOPT_FORMAT(kNothingSelected),    KVOPT_FORMAT(kStudyNameWithSetting),
-        KVOPT_FORMAT(kSpokenSlider)};
+        KVOPT_FORMAT(kSpokenSlider),       KVOPT_FORMAT(kRiskLimitCaption)};
     return formats;
 }
 #undef KVOPT_FORMAT
@@ -130,8 +130,9 @@ TEST(Texts, ParseAndCountWhatTheyDeclareWhereTheyAreFormats) {
 
 TEST(Texts, HoldNoDirectiveWhereTheyArePlain) {
     // A plain text with a percent sign belongs here, with the reason why it is none of a format.
-    const std::set<std::string> percentSigns{// The unit of a risk.
-                                             "kRisk", "kRiskShort", "kRiskChoice", "kRiskLimit"};
+    const std::set<std::string> percentSigns{
+        // The unit of a risk.
+        "kRisk", "kRiskShort", "kRiskChoice", "kRiskLimit", "kRiskPercentOutside"};
     for (const WrittenText& text : AllTexts()) {
         if (!text.arguments && percentSigns.count(text.name) == 0) {
             EXPECT_EQ(text.text.find('%'), std::string::npos)

@@ -49,6 +49,11 @@ TEST(DialogTemplate, IsBuiltFromEveryKindOfItem) {
     EXPECT_EQ(Space().stretch, 1);
     EXPECT_EQ(Text("t").control.number, -1);
     EXPECT_EQ(Text("t").control.kind, ControlKind::Label);
+    EXPECT_EQ(Edit(1).control.kind, ControlKind::Edit);
+    EXPECT_FALSE(Edit(1).control.ranged);
+    EXPECT_EQ(RangeEdit(1).control.kind, ControlKind::Edit);
+    EXPECT_EQ(RangeEdit(1).control.number, 1);
+    EXPECT_TRUE(RangeEdit(1).control.ranged);
     EXPECT_EQ(ComboList(1).control.kind, ControlKind::ComboList);
     EXPECT_EQ(ComboEdit(1).control.kind, ControlKind::ComboEdit);
     EXPECT_EQ(ListSingle(1).control.kind, ControlKind::ListSingle);

@@ -73,7 +73,7 @@ TEST_F(Dialog, HasItsControlsInTabOrder) {
     EXPECT_THAT(numbers, ElementsAre(kLabel, kEdit, kDigits, kCheck, kPush, kFirstRadio,
                                      kSecondRadio, kOtherRadio, kLastRadio, kComboList, kComboEdit,
                                      kListSingle, kListMulti, kSpinEdit, kSpin, kWorksheet,
-                                     kHiddenEdit, kDisabledEdit, kMarkup, -1));
+                                     kHiddenEdit, kDisabledEdit, kRangeEdit, kMarkup, -1));
 }
 
 TEST_F(Dialog, KnowsItsGroupsOfRadioButtons) {

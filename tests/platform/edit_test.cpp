@@ -76,6 +76,24 @@ TEST_F(Edit, DropsTypedCharactersThatAreNoDigitsAndTellsItsViews) {
     edit.RemoveListener(&view);
 }
 
+TEST_F(Edit, TakesDigitsAloneFromWhenItIsTold) {
+    auto& edit = Get<CEdit>(kEdit);
+    EXPECT_FALSE(edit.IsDigitsOnly());
+    edit.UserEdit(L"1.5");
+    dialog.Take();
+    edit.SetDigitsOnly(true);
+    EXPECT_EQ(edit.GetText(), L"1.5");
+    EXPECT_THAT(dialog.Take(), IsEmpty());
+    edit.UserEdit(L"1.5.");
+    EXPECT_EQ(edit.GetText(), L"1.5");
+    edit.UserEdit(L"1.57");
+    EXPECT_EQ(edit.GetText(), L"1.57");
+    EXPECT_TRUE(Get<CEdit>(kDigits).IsDigitsOnly());
+    Get<CEdit>(kDigits).SetDigitsOnly(false);
+    Get<CEdit>(kDigits).UserEdit(L"x");
+    EXPECT_EQ(Get<CEdit>(kDigits).GetText(), L"x");
+}
+
 TEST_F(Edit, LetsPastesAndProgramWritesPassItsDigitFilter) {
     auto& edit = Get<CEdit>(kDigits);
     EXPECT_TRUE(edit.UserPaste(L"-3x"));

@@ -107,6 +107,7 @@ constexpr int kLabel = 25;
 constexpr int kHiddenEdit = 26;
 constexpr int kDisabledEdit = 27;
 constexpr int kMarkup = 28;
+constexpr int kRangeEdit = 29;
 
 /// A template with one control of each kind.
 inline DialogTemplate EveryControl(int number, const char* caption) {
@@ -122,7 +123,7 @@ inline DialogTemplate EveryControl(int number, const char* caption) {
                              ListMulti(kListMulti)}),
                     Row({Edit(kSpinEdit), Spin(kSpin, kSpinEdit)}), Worksheet(kWorksheet),
                     Edit(kHiddenEdit).Hidden(), Edit(kDisabledEdit).Disabled(),
-                    Markup(kMarkup, "Header"), Text("anonymous"), Space()})};
+                    RangeEdit(kRangeEdit), Markup(kMarkup, "Header"), Text("anonymous"), Space()})};
 }
 
 /// A page that notes each of its steps as "<name>.<step>" in the transcript and answers as told.
@@ -250,7 +251,7 @@ protected:
             {Notification::DoubleClicked, "double-clicked"},
             {Notification::Changed, "changed"},
             {Notification::SelectionChanged, "selection"}};
-        for (int number = kEdit; number <= kMarkup; ++number) {
+        for (int number = kEdit; number <= kRangeEdit; ++number) {
             for (const auto& kind : kinds) {
                 const std::string what = std::string(kind.second) + " " + std::to_string(number);
                 map.On(kind.first, number, [this, what] {

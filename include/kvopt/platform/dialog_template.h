@@ -36,6 +36,7 @@ struct ControlTemplate {
     bool startsGroup = false;  ///< first radio button of a group
     bool digitsOnly = false;   ///< typing into an edit takes digits alone
     bool wraps = false;        ///< a label's text is broken into lines
+    bool ranged = false;       ///< the edit is a KvRangeEdit
     int buddy = -1;            ///< label: the control its mnemonic leads to; spin: its edit
     std::vector<const char*> entries = {};  ///< what a list holds from the start
 };
@@ -95,6 +96,7 @@ KVOPT_EXPORT LayoutItem Space();
 KVOPT_EXPORT LayoutItem Text(const char* label);
 KVOPT_EXPORT LayoutItem Label(int number, const char* label);
 KVOPT_EXPORT LayoutItem Edit(int number);
+KVOPT_EXPORT LayoutItem RangeEdit(int number);
 KVOPT_EXPORT LayoutItem ComboList(int number);
 KVOPT_EXPORT LayoutItem ComboEdit(int number);
 KVOPT_EXPORT LayoutItem ListSingle(int number);

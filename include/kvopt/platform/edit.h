@@ -10,7 +10,11 @@ namespace kvopt {
 /// A line of text.
 class KVOPT_EXPORT CEdit : public CControl {
 public:
-    using CControl::CControl;
+    CEdit(CDialog& dialog, const ControlTemplate& what);
+
+    /// Whether typing takes digits alone; the template says so at first. What stands there stays.
+    bool IsDigitsOnly() const { return digitsOnly_; }
+    void SetDigitsOnly(bool digitsOnly) { digitsOnly_ = digitsOnly; }
 
     /// Writes the text by program: always notifies the page as typing does, the same text
     /// included, also on a hidden or disabled edit. The views are told only when it differs.
@@ -24,6 +28,9 @@ public:
     bool UserEdit(std::wstring_view text);
     /// The whole text after a paste; nothing is filtered.
     bool UserPaste(std::wstring_view text);
+
+private:
+    bool digitsOnly_;
 };
 
 }  // namespace kvopt

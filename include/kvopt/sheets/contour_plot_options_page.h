@@ -25,8 +25,6 @@ protected:
     void GetMessageMap(MessageMap& map) override;
 
 private:
-    void SetCheckIfThere(int control, bool checked);
-    void GetCheckIfThere(int control, bool& checked) const;
     void UpdateEnable();
     void OnScaleChanged();
     bool Refuse(const std::wstring& message);
