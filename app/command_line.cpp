@@ -2,18 +2,30 @@
 
 #include <kvopt/text.h>
 
+#include "road.h"
+
 namespace {
 
 [[noreturn]] void Refuse(const std::string& what) {
     throw kvopt::InvalidArgument(what + "\n" + CommandLine::Usage());
 }
 
+std::string RoadNames() {
+    std::string names;
+    for (const Road& road : AllRoads()) {
+        names += (names.empty() ? "" : ", ") + std::string(road.name);
+    }
+    return names;
+}
+
 }  // namespace
 
-const char* CommandLine::Usage() {
+std::string CommandLine::Usage() {
     return "usage: kvopt-demo [STUDY]\n"
-           "       kvopt-demo run contour STUDY [--script FILE] [--out DIR]\n"
-           "                  [--front scripted|qt] [--window]\n";
+           "       kvopt-demo run ROAD STUDY [--script FILE] [--out DIR]\n"
+           "                  [--front scripted|qt] [--window]\n"
+           "roads: " +
+           RoadNames() + "\n";
 }
 
 CommandLine CommandLine::Parse(const std::vector<std::string>& words) {
@@ -54,8 +66,8 @@ CommandLine CommandLine::Parse(const std::vector<std::string>& words) {
         if (names.size() != 3) {
             Refuse("run takes a road and a study");
         }
-        if (names[1] != "contour") {
-            Refuse("unknown road " + names[1] + ", expected contour");
+        if (FindRoad(names[1]) == nullptr) {
+            Refuse("unknown road " + names[1] + ", expected one of " + RoadNames());
         }
         result.task = Task::Run;
         result.road = names[1];

@@ -9,7 +9,7 @@ struct CommandLine {
     enum class FrontEnd { Scripted, Qt };
 
     Task task = Task::Window;
-    std::string road;         ///< of Run, "contour"
+    std::string road;         ///< of Run, the name of one
     std::string study;        ///< file of the study; of Window may be empty
     std::string script;       ///< empty for a person in front of real windows
     std::string out = "out";  ///< folder for what a run leaves
@@ -19,5 +19,5 @@ struct CommandLine {
 
     /// Throws kvopt::InvalidArgument, which says which word is wrong and what was expected.
     static CommandLine Parse(const std::vector<std::string>& words);
-    static const char* Usage();
+    static std::string Usage();
 };

@@ -22,13 +22,14 @@ StoreFiles StoreFiles::InFolder(const std::string& folder) {
             folder + "/saved-plot.json"};
 }
 
-std::unique_ptr<kvopt::ContourPlotData> MakeContourPlot(kvopt::ReferenceStudy& study,
-                                                        kvopt::CWnd* parent) {
-    auto plot = NewPlot(study);
-    if (!kvopt::ShowContourWizard(parent, *plot, &study, true, false)) {
-        return nullptr;
+RoadResult MakeContourPlot(const RoadStart& start) {
+    RoadResult result;
+    auto plot = NewPlot(start.study);
+    result.finished = kvopt::ShowContourWizard(start.parent, *plot, &start.study, true, false);
+    if (result.finished) {
+        result.plot = std::move(plot);
     }
-    return plot;
+    return result;
 }
 
 void SavePlot(const kvopt::ContourPlotData& plot, const std::string& fileName) {

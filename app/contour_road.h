@@ -3,11 +3,7 @@
 #include <memory>
 #include <string>
 
-namespace kvopt {
-class ContourPlotData;
-class CWnd;
-class ReferenceStudy;
-}  // namespace kvopt
+#include "road.h"
 
 /// Where one study's stores stand: its ini file, the user's profile and registry, its saved plots.
 struct StoreFiles {
@@ -20,10 +16,8 @@ struct StoreFiles {
     static StoreFiles InFolder(const std::string& folder);
 };
 
-/// Makes a plot's arguments on the study and lets the user fill them. Null when the wizard was
-/// cancelled.
-std::unique_ptr<kvopt::ContourPlotData> MakeContourPlot(kvopt::ReferenceStudy& study,
-                                                        kvopt::CWnd* parent);
+/// Makes a plot's arguments on the study and lets the user fill them.
+RoadResult MakeContourPlot(const RoadStart& start);
 
 /// Writes the plot to a file of its own. Throws kvopt::FileError.
 void SavePlot(const kvopt::ContourPlotData& plot, const std::string& fileName);

@@ -16,7 +16,7 @@ int DoTask(const CommandLine& command) {
             std::cout << CommandLine::Usage();
             return 0;
         case CommandLine::Task::Run:
-            return RunTask(command);
+            return RunTask(command, std::cout, std::cerr);
         case CommandLine::Task::Window:
             break;
     }

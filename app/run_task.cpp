@@ -2,7 +2,6 @@
 
 #include <kvopt/host.h>
 #include <kvopt/plotargs.h>
-#include <kvopt/scripted.h>
 #include <kvopt/stores.h>
 #include <kvopt/study.h>
 #include <kvopt/text.h>
@@ -10,23 +9,38 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
+#include <ostream>
 
 #include "contour_road.h"
 #include "plot_text.h"
+#include "road.h"
 #include "road_desktop.h"
 
 namespace {
 
-std::shared_ptr<kvopt::UserProfile> ProfileIn(const std::string& fileName) {
-    return std::make_shared<kvopt::UserProfile>(
-        kvopt::IniFileFactory::Instance()->GetIniFile(fileName, ""));
-}
+/// Puts profile and registry of a run in place of the user's own, for as long as this lives.
+class UserStores {
+public:
+    explicit UserStores(const StoreFiles& files)
+        : profile_(kvopt::UserProfile::Install(
+              std::make_shared<kvopt::UserProfile>(IniFile(files.profile)))),
+          registry_(kvopt::Registry::Install(
+              std::make_shared<kvopt::Registry>(IniFile(files.registry)))) {}
+    ~UserStores() {
+        kvopt::Registry::Install(registry_);
+        kvopt::UserProfile::Install(profile_);
+    }
+    UserStores(const UserStores&) = delete;
+    UserStores& operator=(const UserStores&) = delete;
 
-std::shared_ptr<kvopt::Registry> RegistryIn(const std::string& fileName) {
-    return std::make_shared<kvopt::Registry>(
-        kvopt::IniFileFactory::Instance()->GetIniFile(fileName, ""));
-}
+private:
+    static std::unique_ptr<kvopt::IniFileSection> IniFile(const std::string& fileName) {
+        return kvopt::IniFileFactory::Instance()->GetIniFile(fileName, "");
+    }
+
+    std::shared_ptr<kvopt::UserProfile> profile_;
+    std::shared_ptr<kvopt::Registry> registry_;
+};
 
 void WriteText(const std::string& fileName, const std::string& text) {
     std::ofstream file(fileName, std::ios::binary);
@@ -40,69 +54,70 @@ std::string Counted(std::size_t count, const std::string& noun) {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
-void PrintSummary(const kvopt::ReferenceStudy& study, const kvopt::ContourPlotData* plot) {
-    const kvopt::StudyData& data = study.Data();
-    std::cout << "Study   " << data.name << "\n        " << Counted(data.factors.size(), "factor")
-              << ", " << Counted(data.responses.size(), "response") << ", "
-              << Counted(data.runs.rows.size(), "run") << "\n";
-    std::cout << "Wizard  " << (plot != nullptr ? "finished" : "not finished") << "\n";
-    if (plot == nullptr) {
-        return;
-    }
-    for (const PlotGroup& group : DescribePlot(*plot)) {
+void PrintGroups(const std::vector<PlotGroup>& groups, std::ostream& out) {
+    for (const PlotGroup& group : groups) {
         if (group.lines.empty()) {
             continue;
         }
-        std::cout << group.name << "\n";
+        out << group.name << "\n";
         for (const PlotLine& line : group.lines) {
-            std::cout << "        " << line.name;
+            out << "        " << line.name;
             if (!line.value.empty()) {
-                std::cout << ": " << line.value;
+                out << ": " << line.value;
             }
-            std::cout << "\n";
+            out << "\n";
         }
     }
 }
 
-void PrintFiles(const std::string& folder) {
-    std::cout << "Files\n";
+void PrintSummary(const kvopt::ReferenceStudy& study, const Road& road, const RoadResult& result,
+                  std::ostream& out) {
+    const kvopt::StudyData& data = study.Data();
+    out << "Study   " << data.name << "\n        " << Counted(data.factors.size(), "factor") << ", "
+        << Counted(data.responses.size(), "response") << ", "
+        << Counted(data.runs.rows.size(), "run") << "\n";
+    out << (road.kind == Road::Kind::Plot ? "Wizard  " : "Page    ")
+        << (result.finished ? "finished" : "not finished") << "\n";
+    PrintGroups(result.plot != nullptr ? DescribePlot(*result.plot) : result.entered, out);
+}
+
+void PrintFiles(const std::string& folder, std::ostream& out) {
+    out << "Files\n";
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         names.push_back(entry.path().string());
     }
     std::sort(names.begin(), names.end());
     for (const std::string& name : names) {
-        std::cout << "        " << name << "\n";
+        out << "        " << name << "\n";
     }
 }
 
 }  // namespace
 
-int RunTask(const CommandLine& command) {
+int RunTask(const CommandLine& command, std::ostream& out, std::ostream& faults) {
+    const Road& road = *FindRoad(command.road);
     std::filesystem::create_directories(command.out);
     const StoreFiles files = StoreFiles::InFolder(command.out);
     const auto study = kvopt::LoadStudy(command.study);
     study->SetIniFileName(files.ini);
-    const auto formerProfile = kvopt::UserProfile::Install(ProfileIn(files.profile));
-    const auto formerRegistry = kvopt::Registry::Install(RegistryIn(files.registry));
+    const UserStores stores(files);
     kvopt::Investigation::SetActiveInvestigation(study.get());
 
     const auto desktop = RoadDesktop::Make(command);
-    const auto plot = MakeContourPlot(*study, nullptr);
-    const std::vector<std::string> faults = desktop->Finish();
-    if (plot != nullptr) {
-        SavePlot(*plot, files.savedPlot);
+    const RoadResult result = road.go({*study});
+    const std::vector<std::string> unlike = desktop->Finish();
+    if (result.plot != nullptr) {
+        SavePlot(*result.plot, files.savedPlot);
     }
     WriteText(command.out + "/transcript.txt", desktop->TranscriptText());
 
     kvopt::Investigation::SetActiveInvestigation(nullptr);
-    kvopt::Registry::Install(formerRegistry);
-    kvopt::UserProfile::Install(formerProfile);
-    PrintSummary(*study, plot.get());
-    PrintFiles(command.out);
-    for (const std::string& fault : faults) {
-        std::cerr << fault << "\n";
+    PrintSummary(*study, road, result, out);
+    PrintFiles(command.out, out);
+    for (const std::string& fault : unlike) {
+        faults << fault << "\n";
     }
-    const bool asWritten = faults.empty() && (plot != nullptr || !command.script.empty());
+    const bool asWritten = unlike.empty() && (result.finished || !command.script.empty());
     return asWritten ? 0 : 1;
 }

@@ -55,7 +55,7 @@ PlotView::PlotView(QWidget* parent)
 }
 
 void PlotView::SetFiles(const QStringList& files, const QString& current) {
-    ClearPlot();
+    ClearArguments();
     QListWidgetItem* chosen = nullptr;
     {
         const QSignalBlocker blocker(files_);
@@ -76,9 +76,9 @@ void PlotView::SetFiles(const QStringList& files, const QString& current) {
     }
 }
 
-void PlotView::ShowPlot(const kvopt::ContourPlotData& plot) {
-    ClearPlot();
-    for (const PlotGroup& group : DescribePlot(plot)) {
+void PlotView::ShowArguments(const std::vector<PlotGroup>& groups) {
+    ClearArguments();
+    for (const PlotGroup& group : groups) {
         if (group.lines.empty()) {
             continue;
         }
@@ -94,6 +94,6 @@ void PlotView::ShowPlot(const kvopt::ContourPlotData& plot) {
     arguments_->expandAll();
 }
 
-void PlotView::ClearPlot() {
+void PlotView::ClearArguments() {
     arguments_->clear();
 }

@@ -2,13 +2,12 @@
 
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 class QListWidget;
 class QTreeWidget;
 
-namespace kvopt {
-class ContourPlotData;
-}
+struct PlotGroup;
 
 /// The saved plots of a study, and the arguments of the chosen one as a tree.
 class PlotView : public QWidget {
@@ -20,8 +19,9 @@ public:
 
     /// The plots to choose from; chooses `current`, or none when it is not among them.
     void SetFiles(const QStringList& files, const QString& current);
-    void ShowPlot(const kvopt::ContourPlotData& plot);
-    void ClearPlot();
+    /// In place of the arguments that are shown.
+    void ShowArguments(const std::vector<PlotGroup>& groups);
+    void ClearArguments();
 
 private:
     QListWidget* files_;

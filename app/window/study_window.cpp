@@ -10,8 +10,10 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -20,6 +22,8 @@
 #include <QVBoxLayout>
 
 #include "contour_road.h"
+#include "plot_text.h"
+#include "road.h"
 #include "store_text.h"
 #include "window/message_banner.h"
 #include "window/plot_view.h"
@@ -108,17 +112,14 @@ QWidget* StudyWindow::BuildStudy() {
     auto* part = new QWidget;
     message_ = new MessageBanner(part);
     studyView_ = new StudyView(part);
-    contour_ = new QPushButton("&Contour plot...", part);
-    contour_->setObjectName("contour");
-    contour_->setToolTip("Opens the wizard and saves the arguments that it ends with");
+    roads_ = BuildRoads();
     plotView_ = new PlotView(part);
     plotView_->OnChosen([this](const QString& file) { ShowSavedPlot(file); });
-    connect(contour_, &QPushButton::clicked, this, [this] { MakePlot(); });
 
     auto* plots = new QWidget;
     auto* plotColumn = new QVBoxLayout(plots);
     plotColumn->setContentsMargins(0, 0, 0, 0);
-    plotColumn->addWidget(contour_, 0, Qt::AlignLeft);
+    plotColumn->addWidget(roads_, 0, Qt::AlignLeft);
     plotColumn->addWidget(plotView_, 1);
     auto* halves = new QSplitter(Qt::Vertical, part);
     halves->setChildrenCollapsible(false);
@@ -129,6 +130,33 @@ QWidget* StudyWindow::BuildStudy() {
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(message_);
     column->addWidget(halves, 1);
+    return part;
+}
+
+/// A button for each plot, and one menu of the pages.
+QWidget* StudyWindow::BuildRoads() {
+    auto* part = new QWidget;
+    auto* row = new QHBoxLayout(part);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* pages = new QMenu(part);
+    for (const Road& road : AllRoads()) {
+        const auto go = [this, &road] { Go(road); };
+        if (road.kind == Road::Kind::Page) {
+            pages->addAction(road.label, this, go)->setObjectName(road.name);
+            continue;
+        }
+        auto* button = new QPushButton(road.label, part);
+        button->setObjectName(road.name);
+        button->setToolTip("Opens the wizard and saves the arguments that it ends with");
+        connect(button, &QPushButton::clicked, this, go);
+        row->addWidget(button);
+    }
+    auto* button = new QPushButton("Pa&ges", part);
+    button->setObjectName("pages");
+    button->setToolTip("Opens a page that only hosts build, and shows what was entered");
+    button->setMenu(pages);
+    row->addWidget(button);
+    part->setEnabled(false);
     return part;
 }
 
@@ -179,7 +207,7 @@ void StudyWindow::CloseStudy() {
     places_ = StudyPlaces();
     message_->Clear();
     plotView_->SetFiles({}, {});
-    contour_->setEnabled(false);
+    roads_->setEnabled(false);
     ShowPlaces();
 }
 
@@ -191,7 +219,7 @@ void StudyWindow::ShowStudy(const QString& file) {
         study_->SetIniFileName(FileName(places_.IniFile()));
         kvopt::Investigation::SetActiveInvestigation(study_.get());
         studyView_->Show(*study_);
-        contour_->setEnabled(true);
+        roads_->setEnabled(true);
         plotView_->SetFiles(places_.SavedPlots(), places_.SavedPlots().value(0));
         ShowPlaces();
     } catch (const std::exception& fault) {
@@ -202,26 +230,31 @@ void StudyWindow::ShowStudy(const QString& file) {
 
 void StudyWindow::ShowSavedPlot(const QString& file) {
     message_->SetError({});
-    plotView_->ClearPlot();
+    plotView_->ClearArguments();
     try {
-        plotView_->ShowPlot(*LoadPlot(*study_, FileName(file)));
+        plotView_->ShowArguments(DescribePlot(*LoadPlot(*study_, FileName(file))));
     } catch (const std::exception& fault) {
         message_->SetError(QString::fromStdString(fault.what()));
     }
 }
 
-void StudyWindow::MakePlot() {
+void StudyWindow::Go(const Road& road) {
     message_->SetError({});
     try {
-        const auto plot = MakeContourPlot(*study_, &asParent_);
-        if (plot == nullptr) {
+        const RoadResult result = road.go({*study_, &asParent_});
+        if (!result.finished) {
             return;
         }
-        const QString file = Save(*plot);
+        if (result.plot == nullptr) {
+            plotView_->SetFiles(places_.SavedPlots(), {});
+            plotView_->ShowArguments(result.entered);
+            return;
+        }
+        const QString file = Save(*result.plot);
         if (!file.isEmpty()) {
             plotView_->SetFiles(places_.SavedPlots(), file);
         }
-        plotView_->ShowPlot(*plot);
+        plotView_->ShowArguments(DescribePlot(*result.plot));
     } catch (const kvopt::CancelException&) {
         // Abandoned by the analyst: nothing to tell.
     } catch (const std::exception& fault) {

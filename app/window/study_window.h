@@ -11,8 +11,8 @@
 class MessageBanner;
 class PlotView;
 class QListWidget;
-class QPushButton;
 class StudyView;
+struct Road;
 
 namespace kvopt {
 class ContourPlotData;
@@ -39,12 +39,14 @@ private:
     void Build();
     QWidget* BuildStudies();
     QWidget* BuildStudy();
+    QWidget* BuildRoads();
     void ListStudies(const QStringList& files, const QString& current);
     void ChooseStudyFile();
     void ShowStudy(const QString& file);
     void CloseStudy();
     void ShowSavedPlot(const QString& file);
-    void MakePlot();
+    /// Lets the user go a road and shows what it leaves; a plot is saved.
+    void Go(const Road& road);
     /// Empty when the plot could not be saved and the user gave it up.
     QString Save(const kvopt::ContourPlotData& plot);
     void ShowPlaces();
@@ -58,5 +60,5 @@ private:
     MessageBanner* message_ = nullptr;
     StudyView* studyView_ = nullptr;
     PlotView* plotView_ = nullptr;
-    QPushButton* contour_ = nullptr;
+    QWidget* roads_ = nullptr;
 };

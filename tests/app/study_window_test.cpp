@@ -10,12 +10,14 @@
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 
+#include "road.h"
 #include "tests/support/qt_application.h"
 
 namespace {
@@ -78,6 +80,24 @@ protected:
         Find<QPushButton>(window, "contour").click();
         EXPECT_THAT(player.Verify(), IsEmpty());
     }
+    /// Chooses the page from its menu and lets a recorded user fill it.
+    void ShowPage(const StudyWindow& window, const char* road, const std::string& steps) {
+        kvopt::QtPlayer player(desktop_, kvopt::UserScript::FromText(steps, "steps"));
+        Find<QAction>(window, road).trigger();
+        EXPECT_THAT(player.Verify(), IsEmpty());
+    }
+    /// The lines of the tree of arguments, "Axis 1: Time".
+    static std::vector<std::string> Arguments(const StudyWindow& window) {
+        std::vector<std::string> lines;
+        const auto& tree = Find<QTreeWidget>(window, "arguments");
+        for (int group = 0; group < tree.topLevelItemCount(); ++group) {
+            for (int line = 0; line < tree.topLevelItem(group)->childCount(); ++line) {
+                const QTreeWidgetItem* item = tree.topLevelItem(group)->child(line);
+                lines.push_back((item->text(0) + ": " + item->text(1)).toStdString());
+            }
+        }
+        return lines;
+    }
 
     QTemporaryDir folder_;
     kvopt::QtDesktop desktop_;
@@ -126,6 +146,36 @@ TEST_F(StudyWindowTest, SavesNothingWhenTheWizardIsCancelled) {
     MakePlot(window, "cancel\n");
     EXPECT_THAT(Entries(window, "plots"), IsEmpty());
     EXPECT_EQ(Message(window), "");
+}
+
+TEST_F(StudyWindowTest, OffersAButtonForEachPlotAndAMenuEntryForEachPage) {
+    StudyWindow window(Data());
+    EXPECT_FALSE(Find<QPushButton>(window, "contour").isEnabled()) << "there is no study yet";
+    window.OpenFolder(Studies());
+    for (const Road& road : AllRoads()) {
+        if (road.kind == Road::Kind::Page) {
+            EXPECT_EQ(Find<QAction>(window, road.name).text(), road.label);
+            EXPECT_TRUE(Find<QPushButton>(window, "pages")
+                            .menu()
+                            ->actions()
+                            .contains(&Find<QAction>(window, road.name)));
+        } else {
+            EXPECT_EQ(Find<QPushButton>(window, road.name).text(), road.label);
+            EXPECT_TRUE(Find<QPushButton>(window, road.name).isEnabled());
+        }
+    }
+}
+
+TEST_F(StudyWindowTest, ShowsWhatWasEnteredOnAPageAndSavesNothing) {
+    StudyWindow window(Data());
+    window.OpenFolder(Studies());
+    MakePlot(window, "next\nfinish\n");
+    ShowPage(window, "page-select-variable", "pick \"Variable\" \"Temperature\"\nok\n");
+    EXPECT_THAT(Arguments(window), ElementsAre("Variable: Temperature"));
+    EXPECT_THAT(Entries(window, "plots"), ElementsAre("Contour plot 1"));
+    EXPECT_EQ(Find<QListWidget>(window, "plots").currentRow(), -1) << "it shows no plot now";
+    ShowPage(window, "page-select-response", "cancel\n");
+    EXPECT_THAT(Arguments(window), ElementsAre("Variable: Temperature"));
 }
 
 TEST_F(StudyWindowTest, TellsTheErrorOfAMalformedStudyAndOpensTheOthers) {

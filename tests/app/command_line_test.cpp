@@ -1,0 +1,66 @@
+#include "command_line.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <kvopt/text.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "road.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+std::string Refusal(const std::vector<std::string>& words) {
+    try {
+        CommandLine::Parse(words);
+    } catch (const kvopt::InvalidArgument& fault) {
+        return fault.what();
+    }
+    return "taken";
+}
+
+TEST(CommandLine, TakesEveryRoadByItsName) {
+    for (const Road& road : AllRoads()) {
+        const CommandLine command = CommandLine::Parse({"run", road.name, "study.json"});
+        EXPECT_EQ(command.task, CommandLine::Task::Run);
+        EXPECT_EQ(command.road, road.name);
+        EXPECT_EQ(command.study, "study.json");
+        EXPECT_EQ(FindRoad(road.name), &road) << "one road for each name";
+        EXPECT_THAT(CommandLine::Usage(), HasSubstr(road.name));
+    }
+}
+
+TEST(CommandLine, HasEveryRoadInTheDocument) {
+    std::ifstream document(KVOPT_SOURCE_DIR "/docs/demo.md");
+    const std::string text{std::istreambuf_iterator<char>(document),
+                           std::istreambuf_iterator<char>()};
+    for (const Road& road : AllRoads()) {
+        EXPECT_THAT(text, HasSubstr("| `" + std::string(road.name) + "` |"));
+    }
+}
+
+TEST(CommandLine, SaysWhichRoadsThereAreWhenOneIsUnknown) {
+    EXPECT_EQ(FindRoad("countour"), nullptr);
+    EXPECT_THAT(Refusal({"run", "countour", "study.json"}),
+                HasSubstr("unknown road countour, expected one of contour, "));
+    EXPECT_THAT(Refusal({"run", "contour"}), HasSubstr("run takes a road and a study"));
+}
+
+TEST(CommandLine, PlaysAScriptWithoutWindowsUnlessTheyAreNamed) {
+    using FrontEnd = CommandLine::FrontEnd;
+    EXPECT_EQ(CommandLine::Parse({"run", "contour", "s"}).frontEnd, FrontEnd::Qt);
+    EXPECT_EQ(CommandLine::Parse({"run", "contour", "s", "--script", "a"}).frontEnd,
+              FrontEnd::Scripted);
+    EXPECT_EQ(CommandLine::Parse({"run", "contour", "s", "--script", "a", "--window"}).frontEnd,
+              FrontEnd::Qt);
+    EXPECT_EQ(
+        CommandLine::Parse({"run", "contour", "s", "--script", "a", "--front", "qt"}).frontEnd,
+        FrontEnd::Qt);
+}
+
+}  // namespace

@@ -1,0 +1,144 @@
+#include "run_task.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <kvopt/stores.h>
+#include <kvopt/study.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <sstream>
+
+#include "tests/support/qt_application.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// Runs roads on one study without windows, each into a folder of its own.
+class RunTaskTest : public testing::Test {
+protected:
+    /// Plays the steps on the road; the exit code.
+    int Run(const std::string& road, const QByteArray& steps) {
+        QFile script(folder_.filePath("steps.script"));
+        EXPECT_TRUE(script.open(QIODevice::WriteOnly));
+        script.write(steps);
+        script.close();
+        return Play(road, script.fileName().toStdString());
+    }
+    int Play(const std::string& road, const std::string& script) {
+        CommandLine command;
+        command.task = CommandLine::Task::Run;
+        command.road = road;
+        command.study = KVOPT_SOURCE_DIR "/examples/studies/chemical-reaction-ccd-2-blocks.json";
+        command.script = script;
+        command.out = Out().toStdString();
+        std::ostringstream out;
+        std::ostringstream faults;
+        const int code = RunTask(command, out, faults);
+        summary = out.str();
+        told = faults.str();
+        return code;
+    }
+    QString Out() const { return folder_.filePath("out"); }
+    std::string Left(const QString& name) const {
+        QFile file(Out() + "/" + name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "none";
+    }
+
+    std::string summary;
+    std::string told;
+
+private:
+    QTemporaryDir folder_;
+};
+
+TEST_F(RunTaskTest, LeavesTranscriptAndSavedPlotOfTheExampleScript) {
+    EXPECT_EQ(Play("contour", KVOPT_SOURCE_DIR "/examples/scripts/contour.script"), 0) << told;
+    EXPECT_THAT(summary, HasSubstr("Wizard  finished\n"));
+    EXPECT_THAT(summary, HasSubstr("Axis 1: Time, 82 to 88\n"));
+    EXPECT_THAT(Left("transcript.txt"), HasSubstr("end 12325"));
+    EXPECT_THAT(Left("saved-plot.json"), HasSubstr("Time"));
+    EXPECT_THAT(Left("profile.ini"), HasSubstr("ContourResolution=64"));
+    EXPECT_EQ(Left("registry.ini"), "none");
+}
+
+TEST_F(RunTaskTest, SavesNoPlotOfACancelledWizard) {
+    EXPECT_EQ(Run("contour", "cancel\n"), 0) << told;
+    EXPECT_THAT(summary, HasSubstr("Wizard  not finished\n"));
+    EXPECT_EQ(Left("saved-plot.json"), "none");
+}
+
+TEST_F(RunTaskTest, FailsWhenTheScriptWasNotPlayedAsWritten) {
+    EXPECT_EQ(Run("contour", "click 1\ncancel\n"), 1);
+    EXPECT_THAT(told, HasSubstr("steps.script:1: click 1"));
+}
+
+TEST_F(RunTaskTest, ShowsAPageOfOneResponse) {
+    EXPECT_EQ(Run("page-select-response",
+                  "expect page 6184\n"
+                  "expect entries \"Response\" \"<no response selected>\" \"Yield\"\n"
+                  "expect text \"Response\" \"Yield\"\nok\n"),
+              0)
+        << told;
+    EXPECT_THAT(summary, HasSubstr("Page    finished\nSelection\n        Response: Yield\n"));
+    EXPECT_EQ(Left("saved-plot.json"), "none");
+    EXPECT_EQ(Run("page-select-response", "pick \"Response\" \"<no response selected>\"\nok\n"), 0);
+    EXPECT_THAT(summary, HasSubstr("Response: none\n"));
+    EXPECT_EQ(Run("page-select-response", "cancel\n"), 0);
+    EXPECT_THAT(summary, HasSubstr("Page    not finished\n"));
+    EXPECT_THAT(summary, Not(HasSubstr("Response:")));
+}
+
+TEST_F(RunTaskTest, ShowsAPageOfOneFactor) {
+    EXPECT_EQ(
+        Run("page-select-variable", "expect page 6185\npick \"Variable\" \"Temperature\"\nok\n"), 0)
+        << told;
+    EXPECT_THAT(summary, HasSubstr("Page    finished\nSelection\n        Variable: Temperature\n"));
+    EXPECT_THAT(Left("transcript.txt"), HasSubstr("sheet \"Select variable\""));
+}
+
+TEST_F(RunTaskTest, ShowsAPageOfConfidenceLevels) {
+    EXPECT_EQ(Run("page-confidence-level",
+                  "expect page 6155\n"
+                  "expect text \"Interval type\" \"Confidence\"\n"
+                  "expect text \"Confidence level\" \"95%\"\n"
+                  "pick \"Interval type\" \"Tolerance\"\n"
+                  "pick \"Confidence level\" \"99%\"\n"
+                  "pick \"Tolerance proportion\" \"90%\"\nok\n"),
+              0)
+        << told;
+    EXPECT_THAT(summary, HasSubstr("Interval\n        Interval type: Tolerance interval\n"
+                                   "        Confidence level: 99%\n"
+                                   "        Tolerance proportion: 90%\n"));
+    EXPECT_EQ(
+        Run("page-confidence-level", "pick \"Confidence level\" \"No confidence level\"\nok\n"), 0)
+        << told;
+    EXPECT_THAT(summary, HasSubstr("Confidence level: None\n"));
+}
+
+TEST_F(RunTaskTest, ShowsAPageOfPredictionLevels) {
+    EXPECT_EQ(Run("page-prediction-level",
+                  "expect page 6230\n"
+                  "pick \"Interval type\" \"Prediction\"\n"
+                  "pick \"Confidence level\" \"90%\"\nok\n"),
+              0)
+        << told;
+    EXPECT_THAT(summary,
+                HasSubstr("Interval type: Prediction interval\n        Confidence level: 90%\n"));
+    EXPECT_EQ(Run("page-prediction-level", "pick \"Interval type\" \"None\"\nok\n"), 0) << told;
+    EXPECT_THAT(summary, HasSubstr("Interval type: None\n        Confidence level: None\n"));
+}
+
+TEST_F(RunTaskTest, PutsTheUsersOwnStoresBack) {
+    const kvopt::UserProfile* profile = kvopt::UserProfile::Instance();
+    const kvopt::Registry* registry = kvopt::Registry::Instance();
+    Run("page-select-variable", "ok\n");
+    EXPECT_EQ(kvopt::UserProfile::Instance(), profile);
+    EXPECT_EQ(kvopt::Registry::Instance(), registry);
+    EXPECT_EQ(kvopt::Investigation::GetActiveInvestigation(), nullptr);
+}
+
+}  // namespace
