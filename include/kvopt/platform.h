@@ -1,8 +1,8 @@
 #pragma once
 
 /// \file
-/// Everything a page stands on: windows, controls, dialogs, pages, sheets, worksheets, and the
-/// desktop that runs them. Nothing here draws; front ends mirror these models.
+/// Everything a page stands on: windows, controls, dialogs, pages, sheets, worksheets, property
+/// grids, and the desktop that runs them. Nothing here draws; front ends mirror these models.
 
 #include "kvopt/platform/button.h"
 #include "kvopt/platform/cell_canvas.h"
@@ -24,12 +24,17 @@
 #include "kvopt/platform/item_control.h"
 #include "kvopt/platform/keys.h"
 #include "kvopt/platform/kv_dont_show_again_message_box.h"
+#include "kvopt/platform/kv_markup.h"
 #include "kvopt/platform/kv_property_page.h"
 #include "kvopt/platform/kv_property_sheet.h"
 #include "kvopt/platform/kv_range_edit.h"
 #include "kvopt/platform/list_box.h"
+#include "kvopt/platform/markup_static.h"
 #include "kvopt/platform/message_map.h"
 #include "kvopt/platform/mnemonic.h"
+#include "kvopt/platform/property_grid.h"
+#include "kvopt/platform/property_grid_item.h"
+#include "kvopt/platform/property_grid_values.h"
 #include "kvopt/platform/property_page.h"
 #include "kvopt/platform/property_page_helper.h"
 #include "kvopt/platform/property_page_listener.h"

@@ -1,6 +1,8 @@
 #include "control_factory.h"
 
 #include "kvopt/platform/controls.h"
+#include "kvopt/platform/markup_static.h"
+#include "kvopt/platform/property_grid.h"
 #include "kvopt/platform/virtual_worksheet.h"
 #include "kvopt/text/kv_std_string.h"
 
@@ -40,9 +42,11 @@ std::unique_ptr<CControl> MakeControl(CDialog& dialog, const ControlTemplate& wh
             return std::make_unique<CSpinButtonCtrl>(dialog, what);
         case ControlKind::Worksheet:
             return std::make_unique<VirtualWorksheet>(dialog, what);
-        case ControlKind::Label:
         case ControlKind::PropertyGrid:
+            return std::make_unique<CXTPPropertyGrid>(dialog, what);
         case ControlKind::Markup:
+            return std::make_unique<CXTPMarkupStatic>(dialog, what);
+        case ControlKind::Label:
             break;
     }
     return std::make_unique<CStatic>(dialog, what);

@@ -222,9 +222,13 @@ TEST_P(Templates, BuildAModelThatFitsTheKind) {
             case ControlKind::Worksheet:
                 fits = dynamic_cast<const VirtualWorksheet*>(model) != nullptr;
                 break;
-            case ControlKind::Label:
-            case ControlKind::Markup:
             case ControlKind::PropertyGrid:
+                fits = dynamic_cast<const CXTPPropertyGrid*>(model) != nullptr;
+                break;
+            case ControlKind::Markup:
+                fits = dynamic_cast<const CXTPMarkupStatic*>(model) != nullptr;
+                break;
+            case ControlKind::Label:
                 fits = dynamic_cast<const CStatic*>(model) != nullptr;
                 break;
         }

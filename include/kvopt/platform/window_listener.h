@@ -12,12 +12,15 @@ enum class WindowChange {
     Enabled,
     Visible,
     Check,
-    Items,       ///< entries of a list changed, and perhaps the selection with them
-    Selection,   ///< the selected or marked entries changed
-    Range,       ///< limits of a spin control changed
-    Focus,       ///< the program moved the focus to this control, perhaps not for the first time
-    Cells,       ///< a worksheet must be read afresh
-    Buttons,     ///< the frame's buttons changed (Back, Next, Finish, OK, Apply)
+    Items,      ///< entries of a list, or rows of a property grid, changed, and perhaps the
+                ///< selection with them
+    Selection,  ///< the selected or marked entries changed
+    Range,      ///< limits of a spin control, or the divider of a property grid, changed
+    Focus,      ///< the program moved the focus to this control, perhaps not for the first time
+    Cells,      ///< a worksheet, or what stands in the rows of a property grid, must be read afresh
+    Pane,       ///< the pane of a property grid was shown or hidden
+    TopRow,     ///< another row of a property grid is at its upper edge
+    Buttons,    ///< the frame's buttons changed (Back, Next, Finish, OK, Apply)
     ActivePage,  ///< a sheet brought another page up
     Ended,       ///< a modal run was ended
 };
