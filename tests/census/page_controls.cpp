@@ -72,6 +72,12 @@ const Controls kDesignSpaceOptions{{6046, ControlKind::ComboEdit}, {6022, Contro
                                    {6284, ControlKind::Check},     {6296, ControlKind::Check},
                                    {6343, ControlKind::Label},     {6327, ControlKind::Edit}};
 
+const Controls kSetpoint{
+    {6237, ControlKind::Edit},  {6238, ControlKind::Edit},  {6245, ControlKind::Label},
+    {6241, ControlKind::Edit},  {6259, ControlKind::Check}, {6239, ControlKind::Check},
+    {6252, ControlKind::Check}, {6260, ControlKind::Radio}, {6261, ControlKind::Radio},
+    {6277, ControlKind::Check}, {6270, ControlKind::Push}};
+
 }  // namespace
 
 std::vector<int> AllTemplateNumbers() {
@@ -114,7 +120,8 @@ const std::vector<PageOfTemplate>& PagesOfTemplates() {
           {6341, ControlKind::ComboList},
           {6351, ControlKind::Label}}},
         // A design space plot has no levels to lock.
-        {"DSContourPlotOptionsPage", 6221, kDesignSpaceOptions, {6223}}};
+        {"DSContourPlotOptionsPage", 6221, kDesignSpaceOptions, {6223}},
+        {"DesignSpacePage", 6209, kSetpoint}};
     return pages;
 }
 
@@ -133,7 +140,8 @@ const std::vector<PageSources>& SourcesOfPages() {
         {"ContourPlotOptionsPage", {"sheets/contour_plot_options_page.cpp"}},
         {"ConfidenceLevelPage", {"statpages/confidence_level_page.cpp"}},
         {"PredictionLevelPage", {"statpages/prediction_level_page.cpp"}},
-        {"DSContourPlotOptionsPage", {"designspace/ds_contour_plot_options_page.cpp"}}};
+        {"DSContourPlotOptionsPage", {"designspace/ds_contour_plot_options_page.cpp"}},
+        {"DesignSpacePage", {"designspace/design_space_page.cpp"}}};
     return sources;
 }
 
