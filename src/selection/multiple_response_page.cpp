@@ -24,8 +24,6 @@ constexpr int kSelectedLabel = 6216;
 constexpr int kHeading = 6303;
 constexpr int kReset = 6313;
 
-constexpr const char* kPlainNoun = "responses";
-
 void SelectFirstWhereNone(CListBox& list) {
     if (list.GetSelCount() == 0 && list.GetCount() > 0) {
         list.SetSel(0);
@@ -43,7 +41,7 @@ MultipleResponsePage::MultipleResponsePage(const Investigation* investigation,
       mInvestigation(investigation) {
     mResponses.AssertSelectedResponses(false);
     mMaxSelections = BoundFor(maxSelections);
-    if (mResponses.GetType() != kPlainNoun) {
+    if (mResponses.GetType() != texts::kSelectionResponses.Text()) {
         SetPageTitle(FormatWide(texts::kSelectTitle, mResponses.GetType()).c_str());
     }
 }
