@@ -1,5 +1,7 @@
 #include "kvopt/study/enum_helpers.h"
 
+#include <type_traits>
+
 #include "kvopt/stores/configuration_section.h"
 #include "kvopt/text.h"
 #include "study/enum_table.h"
@@ -9,54 +11,90 @@ namespace kvopt {
 
 namespace {
 
-constexpr EnumText<CConfLev::ConfLev> kConfLevTexts[]{
-    {CConfLev::None, "None"},
-    {CConfLev::Level90, "90%"},
-    {CConfLev::Level95, "95%"},
-    {CConfLev::Level99, "99%"},
+/// The own key of an enumeration, and the texts of its values.
+template <class Enum>
+struct Stored;
+
+template <>
+struct Stored<CConfLev::ConfLev> {
+    static constexpr const char* kKey = "ConfLev";
+    static constexpr EnumText<CConfLev::ConfLev> kTexts[]{
+        {CConfLev::None, "None"},
+        {CConfLev::Level90, "90%"},
+        {CConfLev::Level95, "95%"},
+        {CConfLev::Level99, "99%"},
+    };
 };
 
-constexpr EnumText<CAlphaLev::AlphaLev> kAlphaLevTexts[]{
-    {CAlphaLev::Level1, "1%"},
-    {CAlphaLev::Level5, "5%"},
-    {CAlphaLev::Level10, "10%"},
+template <>
+struct Stored<CIntervalType::IntervalType> {
+    static constexpr const char* kKey = "IntervalType";
+    static constexpr EnumText<CIntervalType::IntervalType> kTexts[]{
+        {CIntervalType::None, "None"},
+        {CIntervalType::Confidence, "Confidence"},
+        {CIntervalType::Prediction, "Prediction"},
+        {CIntervalType::Tolerance, "Tolerance"},
+    };
 };
 
-constexpr EnumText<CCoeff::Coeff> kCoeffTexts[]{
-    {CCoeff::ScaledAndCentered, "ScaledAndCentered"},
-    {CCoeff::PlsOrthogonal, "PlsOrthogonal"},
-    {CCoeff::Normalized, "Normalized"},
-    {CCoeff::Unscaled, "Unscaled"},
+template <>
+struct Stored<CAlphaLev::AlphaLev> {
+    static constexpr const char* kKey = "AlphaLev";
+    static constexpr EnumText<CAlphaLev::AlphaLev> kTexts[]{
+        {CAlphaLev::Level1, "1%"},
+        {CAlphaLev::Level5, "5%"},
+        {CAlphaLev::Level10, "10%"},
+    };
 };
 
-constexpr EnumText<CCoeffList::CoeffList> kCoeffListTexts[]{
-    {CCoeffList::Regular, "Regular"},
-    {CCoeffList::Extended, "Extended"},
-    {CCoeffList::ExtendedOnly, "ExtendedOnly"},
+template <>
+struct Stored<CCoeff::Coeff> {
+    static constexpr const char* kKey = "Coeff";
+    static constexpr EnumText<CCoeff::Coeff> kTexts[]{
+        {CCoeff::ScaledAndCentered, "ScaledAndCentered"},
+        {CCoeff::PlsOrthogonal, "PlsOrthogonal"},
+        {CCoeff::Normalized, "Normalized"},
+        {CCoeff::Unscaled, "Unscaled"},
+    };
 };
 
-constexpr EnumText<CR2Opt::R2Opt> kR2OptTexts[]{
-    {CR2Opt::R2, "R2"},
-    {CR2Opt::R2Adjusted, "R2Adjusted"},
+template <>
+struct Stored<CCoeffList::CoeffList> {
+    static constexpr const char* kKey = "CoeffList";
+    static constexpr EnumText<CCoeffList::CoeffList> kTexts[]{
+        {CCoeffList::Regular, "Regular"},
+        {CCoeffList::Extended, "Extended"},
+        {CCoeffList::ExtendedOnly, "ExtendedOnly"},
+    };
 };
 
-constexpr EnumText<CNumberFormat::NumberFormat> kNumberFormatTexts[]{
-    {CNumberFormat::Auto, "Auto"},   {CNumberFormat::Decimals2, "2"},
-    {CNumberFormat::Decimals3, "3"}, {CNumberFormat::Decimals4, "4"},
-    {CNumberFormat::Decimals5, "5"}, {CNumberFormat::Scientific, "Scientific"},
+template <>
+struct Stored<CR2Opt::R2Opt> {
+    static constexpr const char* kKey = "R2Opt";
+    static constexpr EnumText<CR2Opt::R2Opt> kTexts[]{
+        {CR2Opt::R2, "R2"},
+        {CR2Opt::R2Adjusted, "R2Adjusted"},
+    };
 };
 
-constexpr EnumText<CResid::Resid> kResidTexts[]{
-    {CResid::Raw, "Raw"},
-    {CResid::Standardized, "Standardized"},
-    {CResid::DeletedStudentized, "DeletedStudentized"},
+template <>
+struct Stored<CNumberFormat::NumberFormat> {
+    static constexpr const char* kKey = "NumberFormat";
+    static constexpr EnumText<CNumberFormat::NumberFormat> kTexts[]{
+        {CNumberFormat::Auto, "Auto"},   {CNumberFormat::Decimals2, "2"},
+        {CNumberFormat::Decimals3, "3"}, {CNumberFormat::Decimals4, "4"},
+        {CNumberFormat::Decimals5, "5"}, {CNumberFormat::Scientific, "Scientific"},
+    };
 };
 
-constexpr EnumText<CIntervalType::IntervalType> kIntervalTexts[]{
-    {CIntervalType::None, "None"},
-    {CIntervalType::Confidence, "Confidence"},
-    {CIntervalType::Prediction, "Prediction"},
-    {CIntervalType::Tolerance, "Tolerance"},
+template <>
+struct Stored<CResid::Resid> {
+    static constexpr const char* kKey = "Resid";
+    static constexpr EnumText<CResid::Resid> kTexts[]{
+        {CResid::Raw, "Raw"},
+        {CResid::Standardized, "Standardized"},
+        {CResid::DeletedStudentized, "DeletedStudentized"},
+    };
 };
 
 constexpr EnumText<CEVecType::EVT> kVectorTexts[]{
@@ -66,182 +104,59 @@ constexpr EnumText<CEVecType::EVT> kVectorTexts[]{
 };
 constexpr int kLastVector = CEVecType::NotChosen;
 
+/// All are stored as numbers but this one.
+template <class Enum>
+constexpr bool kStoredAsText = std::is_same_v<Enum, CIntervalType::IntervalType>;
+
 }  // namespace
 
-std::string CConfLev::GetString(ConfLev value) {
-    return TextOf(kConfLevTexts, value);
+template <class Enum>
+std::string EnumHelper<Enum>::GetString(Enum value) {
+    return TextOf(Stored<Enum>::kTexts, value);
 }
 
-CConfLev::ConfLev CConfLev::GetEnum(std::string_view text) {
-    return ValueOf(kConfLevTexts, text, Unknown);
+template <class Enum>
+Enum EnumHelper<Enum>::GetEnum(std::string_view text) {
+    return ValueOf(Stored<Enum>::kTexts, text, Enum::Unknown);
 }
 
-void CConfLev::WriteSection(ConfigurationSection* section, ConfLev value) {
-    WriteSection(section, "ConfLev", value);
+template <class Enum>
+void EnumHelper<Enum>::WriteSection(ConfigurationSection* section, Enum value) {
+    WriteSection(section, Stored<Enum>::kKey, value);
 }
 
-void CConfLev::WriteSection(ConfigurationSection* section, const char* key, ConfLev value) {
-    section->WriteKey(key, static_cast<int>(value));
+template <class Enum>
+void EnumHelper<Enum>::WriteSection(ConfigurationSection* section, const char* key, Enum value) {
+    if constexpr (kStoredAsText<Enum>) {
+        section->WriteKey(key, GetString(value));
+    } else {
+        section->WriteKey(key, static_cast<int>(value));
+    }
 }
 
-bool CConfLev::ReadSection(const ConfigurationSection* section, ConfLev& value) {
-    return ReadSection(section, "ConfLev", value);
+template <class Enum>
+bool EnumHelper<Enum>::ReadSection(const ConfigurationSection* section, Enum& value) {
+    return ReadSection(section, Stored<Enum>::kKey, value);
 }
 
-bool CConfLev::ReadSection(const ConfigurationSection* section, const char* key, ConfLev& value) {
-    return ReadNumber(kConfLevTexts, section, key, value);
+template <class Enum>
+bool EnumHelper<Enum>::ReadSection(const ConfigurationSection* section, const char* key,
+                                   Enum& value) {
+    if constexpr (kStoredAsText<Enum>) {
+        return ReadText(Stored<Enum>::kTexts, section, key, value);
+    } else {
+        return ReadNumber(Stored<Enum>::kTexts, section, key, value);
+    }
 }
 
-std::string CAlphaLev::GetString(AlphaLev value) {
-    return TextOf(kAlphaLevTexts, value);
-}
-
-CAlphaLev::AlphaLev CAlphaLev::GetEnum(std::string_view text) {
-    return ValueOf(kAlphaLevTexts, text, Unknown);
-}
-
-void CAlphaLev::WriteSection(ConfigurationSection* section, AlphaLev value) {
-    WriteSection(section, "AlphaLev", value);
-}
-
-void CAlphaLev::WriteSection(ConfigurationSection* section, const char* key, AlphaLev value) {
-    section->WriteKey(key, static_cast<int>(value));
-}
-
-bool CAlphaLev::ReadSection(const ConfigurationSection* section, AlphaLev& value) {
-    return ReadSection(section, "AlphaLev", value);
-}
-
-bool CAlphaLev::ReadSection(const ConfigurationSection* section, const char* key, AlphaLev& value) {
-    return ReadNumber(kAlphaLevTexts, section, key, value);
-}
-
-std::string CCoeff::GetString(Coeff value) {
-    return TextOf(kCoeffTexts, value);
-}
-
-CCoeff::Coeff CCoeff::GetEnum(std::string_view text) {
-    return ValueOf(kCoeffTexts, text, Unknown);
-}
-
-void CCoeff::WriteSection(ConfigurationSection* section, Coeff value) {
-    WriteSection(section, "Coeff", value);
-}
-
-void CCoeff::WriteSection(ConfigurationSection* section, const char* key, Coeff value) {
-    section->WriteKey(key, static_cast<int>(value));
-}
-
-bool CCoeff::ReadSection(const ConfigurationSection* section, Coeff& value) {
-    return ReadSection(section, "Coeff", value);
-}
-
-bool CCoeff::ReadSection(const ConfigurationSection* section, const char* key, Coeff& value) {
-    return ReadNumber(kCoeffTexts, section, key, value);
-}
-
-std::string CCoeffList::GetString(CoeffList value) {
-    return TextOf(kCoeffListTexts, value);
-}
-
-CCoeffList::CoeffList CCoeffList::GetEnum(std::string_view text) {
-    return ValueOf(kCoeffListTexts, text, Unknown);
-}
-
-void CCoeffList::WriteSection(ConfigurationSection* section, CoeffList value) {
-    WriteSection(section, "CoeffList", value);
-}
-
-void CCoeffList::WriteSection(ConfigurationSection* section, const char* key, CoeffList value) {
-    section->WriteKey(key, static_cast<int>(value));
-}
-
-bool CCoeffList::ReadSection(const ConfigurationSection* section, CoeffList& value) {
-    return ReadSection(section, "CoeffList", value);
-}
-
-bool CCoeffList::ReadSection(const ConfigurationSection* section, const char* key,
-                             CoeffList& value) {
-    return ReadNumber(kCoeffListTexts, section, key, value);
-}
-
-std::string CR2Opt::GetString(R2Opt value) {
-    return TextOf(kR2OptTexts, value);
-}
-
-CR2Opt::R2Opt CR2Opt::GetEnum(std::string_view text) {
-    return ValueOf(kR2OptTexts, text, Unknown);
-}
-
-void CR2Opt::WriteSection(ConfigurationSection* section, R2Opt value) {
-    WriteSection(section, "R2Opt", value);
-}
-
-void CR2Opt::WriteSection(ConfigurationSection* section, const char* key, R2Opt value) {
-    section->WriteKey(key, static_cast<int>(value));
-}
-
-bool CR2Opt::ReadSection(const ConfigurationSection* section, R2Opt& value) {
-    return ReadSection(section, "R2Opt", value);
-}
-
-bool CR2Opt::ReadSection(const ConfigurationSection* section, const char* key, R2Opt& value) {
-    return ReadNumber(kR2OptTexts, section, key, value);
-}
-
-std::string CNumberFormat::GetString(NumberFormat value) {
-    return TextOf(kNumberFormatTexts, value);
-}
-
-CNumberFormat::NumberFormat CNumberFormat::GetEnum(std::string_view text) {
-    return ValueOf(kNumberFormatTexts, text, Unknown);
-}
-
-void CNumberFormat::WriteSection(ConfigurationSection* section, NumberFormat value) {
-    WriteSection(section, "NumberFormat", value);
-}
-
-void CNumberFormat::WriteSection(ConfigurationSection* section, const char* key,
-                                 NumberFormat value) {
-    section->WriteKey(key, static_cast<int>(value));
-}
-
-bool CNumberFormat::ReadSection(const ConfigurationSection* section, NumberFormat& value) {
-    return ReadSection(section, "NumberFormat", value);
-}
-
-bool CNumberFormat::ReadSection(const ConfigurationSection* section, const char* key,
-                                NumberFormat& value) {
-    return ReadNumber(kNumberFormatTexts, section, key, value);
-}
-
-std::string CResid::GetString(Resid value) {
-    return TextOf(kResidTexts, value);
-}
-
-CResid::Resid CResid::GetEnum(std::string_view text) {
-    return ValueOf(kResidTexts, text, Unknown);
-}
-
-void CResid::WriteSection(ConfigurationSection* section, Resid value) {
-    WriteSection(section, "Resid", value);
-}
-
-void CResid::WriteSection(ConfigurationSection* section, const char* key, Resid value) {
-    section->WriteKey(key, static_cast<int>(value));
-}
-
-bool CResid::ReadSection(const ConfigurationSection* section, Resid& value) {
-    return ReadSection(section, "Resid", value);
-}
-
-bool CResid::ReadSection(const ConfigurationSection* section, const char* key, Resid& value) {
-    return ReadNumber(kResidTexts, section, key, value);
-}
-
-std::string CIntervalType::GetString(IntervalType value) {
-    return TextOf(kIntervalTexts, value);
-}
+template class EnumHelper<CConfLev::ConfLev>;
+template class EnumHelper<CIntervalType::IntervalType>;
+template class EnumHelper<CAlphaLev::AlphaLev>;
+template class EnumHelper<CCoeff::Coeff>;
+template class EnumHelper<CCoeffList::CoeffList>;
+template class EnumHelper<CR2Opt::R2Opt>;
+template class EnumHelper<CNumberFormat::NumberFormat>;
+template class EnumHelper<CResid::Resid>;
 
 std::wstring CIntervalType::GetStringEx(IntervalType value) {
     switch (value) {
@@ -257,33 +172,6 @@ std::wstring CIntervalType::GetStringEx(IntervalType value) {
             break;
     }
     return {};
-}
-
-CIntervalType::IntervalType CIntervalType::GetEnum(std::string_view text) {
-    return ValueOf(kIntervalTexts, text, Unknown);
-}
-
-void CIntervalType::WriteSection(ConfigurationSection* section, IntervalType value) {
-    WriteSection(section, "IntervalType", value);
-}
-
-void CIntervalType::WriteSection(ConfigurationSection* section, const char* key,
-                                 IntervalType value) {
-    section->WriteKey(key, GetString(value));
-}
-
-bool CIntervalType::ReadSection(const ConfigurationSection* section, IntervalType& value) {
-    return ReadSection(section, "IntervalType", value);
-}
-
-bool CIntervalType::ReadSection(const ConfigurationSection* section, const char* key,
-                                IntervalType& value) {
-    std::string text;
-    if (section == nullptr || !section->ReadKey(key, text) || GetEnum(text) == Unknown) {
-        return false;
-    }
-    value = GetEnum(text);
-    return true;
 }
 
 std::string CEVecType::GetString(EVT value) {

@@ -51,4 +51,17 @@ bool ReadNumber(const EnumText<Enum> (&table)[Count], const ConfigurationSection
     return false;
 }
 
+/// A text that is a value of the enumeration; otherwise false, and the value stays.
+template <class Enum, std::size_t Count>
+bool ReadText(const EnumText<Enum> (&table)[Count], const ConfigurationSection* section,
+              const char* key, Enum& value) {
+    std::string text;
+    if (section == nullptr || !section->ReadKey(key, text)) {
+        return false;
+    }
+    const Enum read = ValueOf(table, text, Enum::Unknown);
+    value = read == Enum::Unknown ? value : read;
+    return read != Enum::Unknown;
+}
+
 }  // namespace kvopt

@@ -3,12 +3,6 @@
 /// \file
 /// The choices that the study's options and plots are made of. Each class holds one enumeration and
 /// its way into a section.
-///
-/// All are of one shape. `GetString` gives the stored text of a value, empty for a number outside
-/// the enumeration; `GetEnum` knows every such text exactly and answers `Unknown` for any other.
-/// `WriteSection` writes one key, the helper's own unless another is named; `ReadSection` answers
-/// false, and leaves the value alone, when the key is absent or holds no value of the enumeration;
-/// a null section holds no key.
 
 #include <string>
 #include <string_view>
@@ -19,11 +13,27 @@ namespace kvopt {
 
 class ConfigurationSection;
 
-/// A confidence level or a tolerance proportion. Stored as an int under "ConfLev".
-class KVOPT_EXPORT CConfLev {
+/// The way of one enumeration into a section, the same for all of them.
+template <class Enum>
+class KVOPT_EXPORT EnumHelper {
 public:
-    CConfLev() = delete;
+    EnumHelper() = delete;
 
+    /// The stored text of a value; empty for a number outside the enumeration.
+    static std::string GetString(Enum value);
+    /// Knows every such text exactly, and answers `Unknown` for any other.
+    static Enum GetEnum(std::string_view text);
+    /// Writes one key, the enumeration's own unless another is named.
+    static void WriteSection(ConfigurationSection* section, Enum value);
+    static void WriteSection(ConfigurationSection* section, const char* key, Enum value);
+    /// False, and the value is left alone, when the key is absent or holds no value of the
+    /// enumeration; a null section holds no key.
+    static bool ReadSection(const ConfigurationSection* section, Enum& value);
+    static bool ReadSection(const ConfigurationSection* section, const char* key, Enum& value);
+};
+
+/// A confidence level or a tolerance proportion. Stored as an int under "ConfLev".
+struct KVOPT_EXPORT ConfLevValues {
     enum ConfLev : int {
         Unknown = -1,  ///< not stored; the answer for a text that is none of these
         None = 0,      ///< no level
@@ -31,20 +41,11 @@ public:
         Level95 = 2,   ///< 95 %
         Level99 = 3,   ///< 99 %
     };
-
-    static std::string GetString(ConfLev value);
-    static ConfLev GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, ConfLev value);
-    static void WriteSection(ConfigurationSection* section, const char* key, ConfLev value);
-    static bool ReadSection(const ConfigurationSection* section, ConfLev& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key, ConfLev& value);
 };
+class KVOPT_EXPORT CConfLev : public ConfLevValues, public EnumHelper<ConfLevValues::ConfLev> {};
 
 /// The kind of interval around a prediction. Stored as its text under "IntervalType".
-class KVOPT_EXPORT CIntervalType {
-public:
-    CIntervalType() = delete;
-
+struct KVOPT_EXPORT IntervalTypeValues {
     enum IntervalType : int {
         Unknown = -1,  ///< not stored; the answer for a text that is none of these
         None = 0,      ///< no interval
@@ -52,43 +53,28 @@ public:
         Prediction = 2,
         Tolerance = 3,
     };
-
-    static std::string GetString(IntervalType value);
+};
+class KVOPT_EXPORT CIntervalType : public IntervalTypeValues,
+                                   public EnumHelper<IntervalTypeValues::IntervalType> {
+public:
     /// The text for the user.
     static std::wstring GetStringEx(IntervalType value);
-    static IntervalType GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, IntervalType value);
-    static void WriteSection(ConfigurationSection* section, const char* key, IntervalType value);
-    static bool ReadSection(const ConfigurationSection* section, IntervalType& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key,
-                            IntervalType& value);
 };
 
 /// The alpha level of a test of lack of fit. Stored as an int under "AlphaLev".
-class KVOPT_EXPORT CAlphaLev {
-public:
-    CAlphaLev() = delete;
-
+struct KVOPT_EXPORT AlphaLevValues {
     enum AlphaLev : int {
         Unknown = -1,  ///< not stored; the answer for a text that is none of these
         Level1 = 1,    ///< 1 %
         Level5 = 2,    ///< 5 %
         Level10 = 3,   ///< 10 %
     };
-
-    static std::string GetString(AlphaLev value);
-    static AlphaLev GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, AlphaLev value);
-    static void WriteSection(ConfigurationSection* section, const char* key, AlphaLev value);
-    static bool ReadSection(const ConfigurationSection* section, AlphaLev& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key, AlphaLev& value);
 };
+class KVOPT_EXPORT CAlphaLev : public AlphaLevValues,
+                               public EnumHelper<AlphaLevValues::AlphaLev> {};
 
 /// How the coefficients of a model are scaled. Stored as an int under "Coeff".
-class KVOPT_EXPORT CCoeff {
-public:
-    CCoeff() = delete;
-
+struct KVOPT_EXPORT CoeffValues {
     enum Coeff : int {
         Unknown = -1,  ///< not stored; the answer for a text that is none of these
         ScaledAndCentered = 1,
@@ -96,60 +82,34 @@ public:
         Normalized = 3,
         Unscaled = 4,
     };
-
-    static std::string GetString(Coeff value);
-    static Coeff GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, Coeff value);
-    static void WriteSection(ConfigurationSection* section, const char* key, Coeff value);
-    static bool ReadSection(const ConfigurationSection* section, Coeff& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key, Coeff& value);
 };
+class KVOPT_EXPORT CCoeff : public CoeffValues, public EnumHelper<CoeffValues::Coeff> {};
 
 /// How the settings of qualitative factors show among the coefficients. Stored as an int under
 /// "CoeffList".
-class KVOPT_EXPORT CCoeffList {
-public:
-    CCoeffList() = delete;
-
+struct KVOPT_EXPORT CoeffListValues {
     enum CoeffList : int {
         Unknown = -1,      ///< not stored; the answer for a text that is none of these
         Regular = 1,       ///< orthogonal settings alone
         Extended = 2,      ///< every setting
         ExtendedOnly = 3,  ///< every setting, and no other presentation is possible
     };
-
-    static std::string GetString(CoeffList value);
-    static CoeffList GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, CoeffList value);
-    static void WriteSection(ConfigurationSection* section, const char* key, CoeffList value);
-    static bool ReadSection(const ConfigurationSection* section, CoeffList& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key, CoeffList& value);
 };
+class KVOPT_EXPORT CCoeffList : public CoeffListValues,
+                                public EnumHelper<CoeffListValues::CoeffList> {};
 
 /// Which explained variation is shown. Stored as an int under "R2Opt".
-class KVOPT_EXPORT CR2Opt {
-public:
-    CR2Opt() = delete;
-
+struct KVOPT_EXPORT R2OptValues {
     enum R2Opt : int {
         Unknown = -1,  ///< not stored; the answer for a text that is none of these
         R2 = 1,
         R2Adjusted = 2,
     };
-
-    static std::string GetString(R2Opt value);
-    static R2Opt GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, R2Opt value);
-    static void WriteSection(ConfigurationSection* section, const char* key, R2Opt value);
-    static bool ReadSection(const ConfigurationSection* section, R2Opt& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key, R2Opt& value);
 };
+class KVOPT_EXPORT CR2Opt : public R2OptValues, public EnumHelper<R2OptValues::R2Opt> {};
 
 /// The number of decimals in lists and tables. Stored as an int under "NumberFormat".
-class KVOPT_EXPORT CNumberFormat {
-public:
-    CNumberFormat() = delete;
-
+struct KVOPT_EXPORT NumberFormatValues {
     enum NumberFormat : int {
         Unknown = -1,  ///< not stored; the answer for a text that is none of these
         Auto = 1,
@@ -159,35 +119,20 @@ public:
         Decimals5 = 5,
         Scientific = 6,
     };
-
-    static std::string GetString(NumberFormat value);
-    static NumberFormat GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, NumberFormat value);
-    static void WriteSection(ConfigurationSection* section, const char* key, NumberFormat value);
-    static bool ReadSection(const ConfigurationSection* section, NumberFormat& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key,
-                            NumberFormat& value);
 };
+class KVOPT_EXPORT CNumberFormat : public NumberFormatValues,
+                                   public EnumHelper<NumberFormatValues::NumberFormat> {};
 
 /// The kind of residuals. Stored as an int under "Resid".
-class KVOPT_EXPORT CResid {
-public:
-    CResid() = delete;
-
+struct KVOPT_EXPORT ResidValues {
     enum Resid : int {
         Unknown = -1,  ///< not stored; the answer for a text that is none of these
         Raw = 1,       ///< original units
         Standardized = 2,
         DeletedStudentized = 3,
     };
-
-    static std::string GetString(Resid value);
-    static Resid GetEnum(std::string_view text);
-    static void WriteSection(ConfigurationSection* section, Resid value);
-    static void WriteSection(ConfigurationSection* section, const char* key, Resid value);
-    static bool ReadSection(const ConfigurationSection* section, Resid& value);
-    static bool ReadSection(const ConfigurationSection* section, const char* key, Resid& value);
 };
+class KVOPT_EXPORT CResid : public ResidValues, public EnumHelper<ResidValues::Resid> {};
 
 /// The vectors of a multivariate model that a score or loading plot can show. Stored as an int
 /// under "VectorType"; a host may have further vectors, so every number from 0 to 84 is kept.
