@@ -4,6 +4,7 @@
 #include "kvopt/constants/vws_constant_interface.h"
 #include "kvopt/study.h"
 #include "kvopt/text.h"
+#include "study/block_effect.h"
 
 namespace kvopt {
 
@@ -32,7 +33,7 @@ FactorConstants::SettingType VWSConstantInterface::SetFactorConstantValue(
     } else {
         FactorConstants::CenterValue(variables, factor, FactorConstants::REF, text);
         if (qualitative) {
-            if (factorName == kBlockFactorName && IsBlockRandom()) {
+            if (factorName == kBlockFactorName && HasRandomBlockEffect(*mInvestigation)) {
                 text = texts::kConstantsRandomBlock.Text();
             }
             FactorConstants::Add(mConstants, {factorName, text, FactorConstants::REF});

@@ -1,7 +1,6 @@
 #include "kvopt/constants/vws_constant_interface.h"
 
 #include <boost/locale/message.hpp>
-#include <utility>
 
 #include "constants_texts.h"
 #include "kvopt/constants/constants_cell_renderer.h"
@@ -10,6 +9,7 @@
 #include "kvopt/stores.h"
 #include "kvopt/study.h"
 #include "kvopt/text.h"
+#include "study/block_effect.h"
 
 namespace kvopt {
 
@@ -80,15 +80,6 @@ bool VWSConstantInterface::SkipsFactor(const FactorClass& factor) const {
 const FactorClass* VWSConstantInterface::FactorOfRow(int row) const {
     const std::string name = GetCellText(kFactorColumn, row);
     return name.empty() ? nullptr : mInvestigation->GetVariables()->GetFactor(name);
-}
-
-bool VWSConstantInterface::IsBlockRandom() const {
-    int fixedEffect = 1;
-    const auto blocking = mInvestigation->GetInvestigationSettings("Blocking", true);
-    if (blocking != nullptr) {
-        std::as_const(*blocking).ReadKey("FixedEffect", fixedEffect);
-    }
-    return fixedEffect == 0;
 }
 
 void VWSConstantInterface::UpdateInterface() {
@@ -175,7 +166,7 @@ void VWSConstantInterface::SetUpList(const FactorClass& factor, int row) {
     FieldDef& value = *GetFieldDef(kValueColumn, row, true);
     value = FieldDef::Combo;
     SetFieldColor(kValueColumn, row, FieldDef::kNoColour);
-    if (factor.name == kBlockFactorName && IsBlockRandom()) {
+    if (factor.name == kBlockFactorName && HasRandomBlockEffect(*mInvestigation)) {
         value.AddComboSetting(texts::kConstantsRandomBlock.Text());
     }
     for (int setting = 1; setting <= factor.settingCount; ++setting) {

@@ -91,7 +91,6 @@ private:
     void AddRenderer(const FactorClass& factor);
     const FactorClass* FactorOfRow(int row) const;
     bool SkipsFactor(const FactorClass& factor) const;
-    bool IsBlockRandom() const;
     /// In free-standing use formulation factors that must make up the rest are closed.
     bool IsLockedFormulation(const FactorClass& factor) const;
     bool IsSliderClosed(const FactorClass& factor) const;
