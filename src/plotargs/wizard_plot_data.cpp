@@ -204,6 +204,10 @@ void WizardPlotData::AllocateConstants(int capacity) {
         std::make_shared<FactorConstants::Constant[]>(static_cast<std::size_t>(capacity) + 1);
 }
 
+bool WizardPlotData::HasRoomForConstant() const {
+    return FactorConstants::NumConstants(constants_.get()) < constantCapacity_;
+}
+
 void WizardPlotData::AddConstant(const FactorConstants::Constant& constant) {
     FactorConstants::Add(constants_.get(), constant, constantCapacity_);
 }

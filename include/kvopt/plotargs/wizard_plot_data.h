@@ -107,6 +107,8 @@ protected:
     /// Replaces the defaults by as many empty pointers.
     void CreateAxisDefaults(int count);
 
+    /// Whether the array of constants can take one more.
+    bool HasRoomForConstant() const;
     Investigation* MutableInvestigation() const { return investigation_; }
     /// The ini section, or an empty one that is kept nowhere.
     std::shared_ptr<IniFileSection> IniForReading() const;
