@@ -16,4 +16,6 @@
 #include "kvopt/axes/mixture_4d_axis_helper.h"
 #include "kvopt/axes/mixture_axis_page.h"
 #include "kvopt/axes/probability_contour_axis_helper.h"
+#include "kvopt/axes/sweet_spot_4d_axis_helper.h"
+#include "kvopt/axes/sweet_spot_axis_helper.h"
 #include "kvopt/axes/use_factor.h"

@@ -1,18 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "axes/axes_study.h"
+#include "axes/axis_offers.h"
 #include "kvopt/axes.h"
 #include "kvopt/plotargs.h"
 
 namespace kvopt::test {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 const std::string kNone = AxisInfo::GetNotUsedName();
 
@@ -20,30 +17,13 @@ const std::string kNone = AxisInfo::GetNotUsedName();
 /// unless a test says so.
 class ContourAxisHelpersTest : public testing::Test {
 protected:
-    ContourAxisHelpersTest() {
-        study.Names("Colour");
-        study.Number("Temp", 0, 100);
-        study.Number("Time", 0, 60);
-        study.Number("Speed", 0, 9);
-        for (const char* name : {"A", "B", "C", "D"}) {
-            study.Part(name);
-        }
-        study.Add("Rest", CEType::Filler);
-    }
+    ContourAxisHelpersTest() { AddFactorsOfEachKind(study); }
 
     ContourPlotData& Data(bool isDSProbability = false) {
         if (!data_) {
             data_ = std::make_unique<ContourPlotData>(&study, 9, "", isDSProbability, false, false,
                                                       false);
-            // The order of the defaults is the plot's business; here it is the study's.
-            data_->GetAxisDefaults() = MakeAxes({{"Colour"},
-                                                 {"Temp", 1, 2},
-                                                 {"Time", 3, 4},
-                                                 {"Speed", 5, 6},
-                                                 {"A", 0.1F, 0.2F},
-                                                 {"B", 0.3F, 0.4F},
-                                                 {"C", 0.5F, 0.6F},
-                                                 {"D", 0.7F, 0.8F}});
+            data_->GetAxisDefaults() = DefaultsInOrder();
             for (int set = 1; set <= 4; ++set) {
                 for (std::size_t i = 1; i < data_->GetAxisInfo(set).size(); ++i) {
                     data_->GetAxisInfo(set)[i]->SetName("Gone");
@@ -57,30 +37,7 @@ protected:
     ContourPageData& Page() { return *data_->GetContourTypeData(); }
     ContourPageData::Arguments& Options() { return Page().GetOptions(); }
     /// The names of a set; the axes that were never touched are called Gone.
-    Texts Set(int set) {
-        Texts names;
-        for (const auto& axis : data_->GetAxisInfo(set)) {
-            if (axis) {
-                names.push_back(axis->GetName());
-            }
-        }
-        return names;
-    }
-    /// A text for each axis: the first letters of what it may take.
-    template <class Helper>
-    static Texts Offers(const Helper& helper, int axes) {
-        Texts offers;
-        for (int axis = 1; axis <= axes; ++axis) {
-            Texts options = helper.Options(axis);
-            std::sort(options.begin(), options.end());
-            std::string text;
-            for (const std::string& option : options) {
-                text += option == kNone ? "-" : option.substr(0, 2) + " ";
-            }
-            offers.push_back(text);
-        }
-        return offers;
-    }
+    Texts Set(int set) { return NamesOfSet(*data_, set); }
 
     AxesStudy study;
 
