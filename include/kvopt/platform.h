@@ -23,6 +23,7 @@
 #include "kvopt/platform/geometry.h"
 #include "kvopt/platform/item_control.h"
 #include "kvopt/platform/keys.h"
+#include "kvopt/platform/kv_combo_box.h"
 #include "kvopt/platform/kv_dont_show_again_message_box.h"
 #include "kvopt/platform/kv_markup.h"
 #include "kvopt/platform/kv_property_page.h"

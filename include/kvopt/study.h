@@ -9,6 +9,7 @@
 #include "kvopt/study/constraints_info.h"
 #include "kvopt/study/design_space_options.h"
 #include "kvopt/study/design_space_predictor.h"
+#include "kvopt/study/ds_factor_settings.h"
 #include "kvopt/study/enum_helpers.h"
 #include "kvopt/study/factor_class.h"
 #include "kvopt/study/factor_constants.h"

@@ -30,7 +30,7 @@ std::unique_ptr<CControl> MakeControl(CDialog& dialog, const ControlTemplate& wh
             return std::make_unique<CEdit>(dialog, what);
         case ControlKind::ComboList:
         case ControlKind::ComboEdit:
-            return MakeList<CComboBox>(dialog, what);
+            return MakeList<KvComboBox>(dialog, what);
         case ControlKind::ListSingle:
         case ControlKind::ListMulti:
             return MakeList<CListBox>(dialog, what);
