@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace kvopt {
 
@@ -37,16 +38,49 @@ constexpr std::array<AxisRow, 6> kRows{{
      "6th axis default"},
 }};
 
-/// The rows under their headings; the list takes the room that is left.
-LayoutItem AxisRows(std::size_t count) {
+LayoutItem LowEdit(const AxisRow& row) {
+    return Edit(row.low).Named(row.lowName).Stretch(1);
+}
+
+LayoutItem HighEdit(const AxisRow& row) {
+    return Edit(row.high).Named(row.highName).Stretch(1);
+}
+
+LayoutItem DefaultButton(const AxisRow& row) {
+    return Push(row.defaultButton, "Default").Named(row.defaultName);
+}
+
+/// What an outer axis has for the settings of a qualitative factor, in the places of its range and
+/// its Default button.
+struct SettingsRow {
+    int edit;
+    const char* editName;
+    int button;
+    const char* buttonName;
+};
+
+/// The rows under their headings; the list takes the room that is left. The last rows are those of
+/// `outer` axes.
+LayoutItem AxisRows(std::size_t count, const std::vector<SettingsRow>& outer = {}) {
     std::vector<LayoutItem> cells{Text(""), Text("Factor"), Text("Low"), Text("High"), Text("")};
+    const std::size_t inner = count - outer.size();
     for (std::size_t i = 0; i < count; ++i) {
         const AxisRow& row = kRows[i];
         cells.push_back(Text(row.heading).Buddy(row.list));
         cells.push_back(ComboList(row.list).Named(row.listName).Stretch(2));
-        cells.push_back(Edit(row.low).Named(row.lowName).Stretch(1));
-        cells.push_back(Edit(row.high).Named(row.highName).Stretch(1));
-        cells.push_back(Push(row.defaultButton, "Default").Named(row.defaultName));
+        if (i < inner) {
+            cells.push_back(LowEdit(row));
+            cells.push_back(HighEdit(row));
+            cells.push_back(DefaultButton(row));
+        } else {
+            const SettingsRow& settings = outer[i - inner];
+            cells.push_back(Stack({Row({LowEdit(row), HighEdit(row)}),
+                                   Edit(settings.edit).Named(settings.editName).Hidden()})
+                                .Span(2));
+            cells.push_back(
+                Stack({DefaultButton(row),
+                       Push(settings.button, "Settings").Named(settings.buttonName).Hidden()}));
+        }
     }
     return Grid(5, std::move(cells));
 }
@@ -58,12 +92,35 @@ DialogTemplate AxesAndConstants(int number, std::size_t axes) {
                     Worksheet(6139).Named("Constant factors").Stretch(1)})};
 }
 
+/// Axes above, the two outer ones last; then what is said of the constants, and the switches of a
+/// probability plot.
+DialogTemplate AxesIn4D(int number, LayoutItem rows, bool switchesHidden) {
+    const auto hideable = [switchesHidden](const LayoutItem& item) {
+        return switchesHidden ? item.Hidden() : item;
+    };
+    return {number, "4D axes",
+            Column({std::move(rows), Label(6140, "Constant factors:"), Label(6139, "").Wraps(),
+                    hideable(Check(6279, "Include factor precision on axis factors")),
+                    hideable(Check(6280, "Include factor precision on constant factors")),
+                    Row({hideable(Label(6306, "Distribution:").Buddy(6305)),
+                         hideable(ComboList(6305).Named("Distribution")), Space()}),
+                    Space()})};
+}
+
 }  // namespace
 
 std::vector<DialogTemplate> AxesTemplates() {
     return {{6152, "Axes", Column({AxisRows(kRows.size()), Space()})},
             AxesAndConstants(6160, 2),
-            AxesAndConstants(6168, 3)};
+            AxesIn4D(6161,
+                     AxisRows(4, {{6050, "3rd axis settings", 6003, "Choose 3rd axis settings"},
+                                  {6051, "4th axis settings", 6004, "Choose 4th axis settings"}}),
+                     false),
+            AxesAndConstants(6168, 3),
+            AxesIn4D(6169,
+                     AxisRows(5, {{6050, "4th axis settings", 6003, "Choose 4th axis settings"},
+                                  {6051, "5th axis settings", 6004, "Choose 5th axis settings"}}),
+                     true)};
 }
 
 }  // namespace kvopt

@@ -41,4 +41,33 @@ inline constexpr PlainText kAxesIncreaseHigh(
 // Joins the settings of a qualitative axis.
 inline constexpr FormatText<1> kAxesNextSetting(";%s");
 
+// Judging the settings of a qualitative axis; one follows the other with nothing between.
+inline constexpr PlainText kAxesNoSettings("No settings selected for qualitative axis");
+inline constexpr FormatText<2> kAxesUnknownSetting("%1% is not a legal setting for factor %2% ");
+inline constexpr PlainText kAxesManySettings(
+    "More than 3 settings are selected. Only the three first will be displayed");
+inline constexpr PlainText kAxesThirdUnused("\nThere is nothing selected on the third axis.");
+/// What the dialog in which settings are chosen calls them.
+inline constexpr PlainText kAxesSettingsNoun("settings");
+
+// What follows the axes of a plot with four dimensions. The two hints are worded apart.
+inline constexpr PlainText kAxesNoConstants(
+    "There are no unused factors that can be held constant.");
+inline constexpr PlainText kAxesConstantsFollow(
+    "Click the Next-button to specify the settings for the factors to be held constant in the plot "
+    "or click Finish to create the plot now.");
+inline constexpr PlainText kAxesMixtureConstantsFollow(
+    "Click the 'Next' button to specify the settings for the factors to be held constant in the "
+    "plot or click 'Finish' to create the plot now.");
+
+// The switches of a probability plot, when they stand for those of setpoint exploration.
+inline constexpr PlainText kAxesExplorationOnAxes(
+    "Include distribution from setpoint exploration on axis factors");
+inline constexpr PlainText kAxesExplorationOnConstants(
+    "Include distribution from setpoint exploration on constant factors");
+inline constexpr PlainText kAxesCheckPrecisions(
+    "Make sure you have specified correct factor precisions.");
+inline constexpr PlainText kAxesCheckDistributions(
+    "Make sure you have specified correct distributions on all factors in setpoint exploration.");
+
 }  // namespace kvopt::texts

@@ -1,8 +1,11 @@
 #include "axes/axis_filters.h"
 
+#include <limits>
+
 #include "kvopt/axes/axis_type.h"
 #include "kvopt/study/investigation.h"
 #include "kvopt/study/response_manager.h"
+#include "kvopt/study/response_model_utilities.h"
 #include "kvopt/study/variables.h"
 
 namespace kvopt {
@@ -10,6 +13,12 @@ namespace kvopt {
 AxisFilters AxisFilters::Of(const Investigation* investigation) {
     const bool asksModels = investigation->GetResponseManager()->GetCount(ResponseEx::External) < 1;
     return {investigation->GetVariables(), asksModels ? investigation : nullptr};
+}
+
+int AxisFilters::FactorCount() const {
+    return models_ != nullptr ? ResponseModelUtilities(models_).GetUsedCount(
+                                    CEVar::AllFactors, std::numeric_limits<int>::max())
+                              : variables_->GetCount(CEVar::AllFactors);
 }
 
 std::unique_ptr<UseFactor> AxisFilters::NonQualitative() const {

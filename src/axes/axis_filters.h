@@ -21,6 +21,9 @@ public:
         : variables_(variables), models_(models) {}
 
     const Investigation* Models() const { return models_; }
+    /// How many factors a plot can have on axes and as constants: those that the models use, or all
+    /// of the study where the models are not asked.
+    int FactorCount() const;
 
     std::unique_ptr<UseFactor> NonQualitative() const;
     /// Of the inner axes of a process plot.

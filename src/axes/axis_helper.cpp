@@ -5,14 +5,13 @@
 #include <utility>
 
 #include "axes/axis_filters.h"
-#include "axes_texts.h"
+#include "axes/outer_axes.h"
 #include "kvopt/axes/use_factor.h"
 #include "kvopt/plotargs/wizard_plot_data.h"
 #include "kvopt/study/axis_info.h"
 #include "kvopt/study/factor_class.h"
 #include "kvopt/study/investigation.h"
 #include "kvopt/study/variables.h"
-#include "kvopt/text/format.h"
 #include "kvopt/text/kv_string.h"
 #include "kvopt/text/not_set.h"
 
@@ -22,8 +21,6 @@ namespace {
 
 /// Lists of a helper that has no axes yet.
 constexpr int kListsWithoutAxes = 6;
-/// An axis that meets a qualitative factor for the first time shows no more settings than this.
-constexpr std::size_t kMostSettings = 3;
 
 std::string RangeText(float value) {
     return value == kNotSetF ? std::string() : KvString::FormatG(value);
@@ -264,16 +261,8 @@ const std::string& AxisHelper::Selected(int axis) const {
 }
 
 void AxisHelper::TransferSettings(AxisInfo& axis, const std::string& name) const {
-    std::string text;
-    if (const FactorClass* factor = investigation_->GetVariables()->GetFactor(name)) {
-        const std::vector<int> included = factor->GetIncludedSettings();
-        const std::size_t count = std::min(kMostSettings, included.size());
-        for (std::size_t i = 0; i < count; ++i) {
-            const std::string setting = factor->GetSetting(included[i]);
-            text += i == 0 ? setting : Format(texts::kAxesNextSetting, setting);
-        }
-    }
-    axis.SetSettings(text);
+    const FactorClass* factor = investigation_->GetVariables()->GetFactor(name);
+    axis.SetSettings(factor != nullptr ? FirstSettings(*factor) : std::string());
     axis.SetIsQualitative(true);
 }
 

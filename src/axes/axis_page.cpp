@@ -86,6 +86,10 @@ void AxisPage::OnChangeAxis(int /*axis*/) {
 bool AxisPage::CheckLegalAxes() const {
     std::string message;
     const AxisErrorSeverity severity = AreAxesLegal(message);
+    return TellVerdict(severity, message);
+}
+
+bool AxisPage::TellVerdict(AxisErrorSeverity severity, const std::string& message) const {
     if (severity == AxisNoError) {
         return true;
     }
@@ -288,6 +292,14 @@ bool AxisPage::OnApply() {
 CComboBox* AxisPage::AxisCombo(int axis) const {
     const std::optional<Row> row = RowOf(axis);
     return row ? row->list : nullptr;
+}
+
+void AxisPage::ShowRange(int axis, bool show) {
+    if (const std::optional<Row> row = RowOf(axis)) {
+        row->low->ShowWindow(show);
+        row->high->ShowWindow(show);
+        row->defaultButton->ShowWindow(show);
+    }
 }
 
 std::optional<AxisPage::Row> AxisPage::RowOf(int axis) const {

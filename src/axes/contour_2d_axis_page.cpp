@@ -1,7 +1,5 @@
 #include "kvopt/axes/contour_2d_axis_page.h"
 
-#include <limits>
-
 #include "axes/axis_filters.h"
 #include "kvopt/axes/fill_box.h"
 #include "kvopt/constants/contour_constants_chooser2.h"
@@ -9,7 +7,6 @@
 #include "kvopt/platform/keys.h"
 #include "kvopt/platform/virtual_worksheet.h"
 #include "kvopt/study/investigation.h"
-#include "kvopt/study/response_model_utilities.h"
 #include "kvopt/study/variables.h"
 
 namespace kvopt {
@@ -18,12 +15,6 @@ namespace {
 
 constexpr int kGridControl = 6139;
 
-int GridRows(const Investigation* models, const Variables& variables) {
-    return models != nullptr ? ResponseModelUtilities(models).GetUsedCount(
-                                   CEVar::AllFactors, std::numeric_limits<int>::max())
-                             : variables.GetCount(CEVar::AllFactors);
-}
-
 }  // namespace
 
 Contour2DAxisPage::Contour2DAxisPage(const Investigation* investigation, const Arguments& arguments,
@@ -31,11 +22,11 @@ Contour2DAxisPage::Contour2DAxisPage(const Investigation* investigation, const A
                                      unsigned helpTopic)
     : AxisPage(investigation, arguments, templateNumber, helper, helpTopic),
       accelerators_(AcceleratorTable::Find(kWorksheetAccelerators)) {
-    const Investigation* models = AxisFilters::Of(investigation).Models();
-    Variables* variables = investigation->GetVariables();
-    auto chooser = std::make_unique<ContourConstantsChooser2>(variables, this, models);
+    const AxisFilters filters = AxisFilters::Of(investigation);
+    auto chooser = std::make_unique<ContourConstantsChooser2>(investigation->GetVariables(), this,
+                                                              filters.Models());
     constantsGrid_ = std::make_unique<VWSConstantInterface>(
-        this, investigation, GridRows(models, *variables), chooser.release(), arguments.constants,
+        this, investigation, filters.FactorCount(), chooser.release(), arguments.constants,
         *arguments.defaults, false);
 }
 

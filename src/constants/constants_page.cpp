@@ -1,7 +1,6 @@
 #include "kvopt/constants/constants_page.h"
 
-#include <limits>
-
+#include "axes/axis_filters.h"
 #include "kvopt/platform.h"
 #include "kvopt/study.h"
 
@@ -9,14 +8,6 @@ namespace kvopt {
 
 namespace {
 constexpr int kGrid = 6139;
-
-int RowsFor(const Investigation& investigation) {
-    if (investigation.GetResponseManager()->GetCount(ResponseEx::External) < 1) {
-        return ResponseModelUtilities(&investigation)
-            .GetUsedCount(CEVar::AllFactors, std::numeric_limits<int>::max());
-    }
-    return investigation.GetVariables()->GetCount(CEVar::AllFactors);
-}
 
 const std::vector<std::shared_ptr<AxisInfo>>& AxesOrNone(
     const std::vector<std::shared_ptr<AxisInfo>>* axes) {
@@ -30,9 +21,9 @@ ConstantsPage::ConstantsPage(const Investigation* investigation, const Arguments
                              unsigned templateNumber, BasePropertyPageHelper* helper, bool readOnly)
     : KvPropertyPage(templateNumber, 0, helper, kNoHelp),
       arguments_(arguments),
-      grid_(std::make_unique<VWSConstantInterface>(this, investigation, RowsFor(*investigation),
-                                                   arguments.chooser, arguments.constants,
-                                                   AxesOrNone(arguments.axes), readOnly)),
+      grid_(std::make_unique<VWSConstantInterface>(
+          this, investigation, AxisFilters::Of(investigation).FactorCount(), arguments.chooser,
+          arguments.constants, AxesOrNone(arguments.axes), readOnly)),
       accelerators_(AcceleratorTable::Find(kWorksheetAccelerators)) {}
 
 ConstantsPage::~ConstantsPage() = default;

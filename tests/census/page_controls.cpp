@@ -46,6 +46,13 @@ Controls AxisRows(int count) {
 
 const Controls kGrid{{6139, ControlKind::Worksheet}};
 
+/// The settings of two outer axes, the hint and the switches of an axis page of four dimensions.
+const Controls kOuterAxes{{6050, ControlKind::Edit},      {6003, ControlKind::Push},
+                          {6051, ControlKind::Edit},      {6004, ControlKind::Push},
+                          {6140, ControlKind::Label},     {6139, ControlKind::Label},
+                          {6279, ControlKind::Check},     {6280, ControlKind::Check},
+                          {6305, ControlKind::ComboList}, {6306, ControlKind::Label}};
+
 const Controls kResponseLists{{6303, ControlKind::Label},     {6215, ControlKind::Label},
                               {6076, ControlKind::ListMulti}, {6005, ControlKind::Push},
                               {6017, ControlKind::Push},      {6313, ControlKind::Push},
@@ -93,6 +100,8 @@ const std::vector<PageOfTemplate>& PagesOfTemplates() {
         {"AxisPage", 6152, AxisRows(6)},
         {"Contour2DAxisPage", 6160, AxisRows(2) + kGrid},
         {"MixtureAxisPage", 6168, AxisRows(3) + kGrid},
+        {"Contour4DAxisPage", 6161, AxisRows(4) + kOuterAxes},
+        {"Mixture4DAxisPage", 6169, AxisRows(5) + kOuterAxes},
         {"ConstantsPage", 6157, kGrid},
         {"ConstantsPage", 6170, kGrid},
         {"MultipleResponsePage", 6172, kResponseLists},
@@ -131,6 +140,12 @@ const std::vector<PageSources>& SourcesOfPages() {
         {"Contour2DAxisPage", {"axes/axis_page.cpp", "axes/contour_2d_axis_page.cpp"}},
         {"MixtureAxisPage",
          {"axes/axis_page.cpp", "axes/contour_2d_axis_page.cpp", "axes/mixture_axis_page.cpp"}},
+        {"Contour4DAxisPage",
+         {"axes/axis_page.cpp", "axes/contour_4d_axis_page.cpp", "axes/outer_axes.cpp",
+          "axes/constants_hint.cpp", "axes/factor_precision_controls.cpp"}},
+        {"Mixture4DAxisPage",
+         {"axes/axis_page.cpp", "axes/mixture_4d_axis_page.cpp", "axes/outer_axes.cpp",
+          "axes/constants_hint.cpp", "axes/factor_precision_controls.cpp"}},
         {"ConstantsPage", {"constants/constants_page.cpp"}},
         {"MultipleResponsePage", {"selection/multiple_response_page.cpp"}},
         {"SelectItemDialog", {"selection/select_item_dialog.cpp"}},
@@ -146,9 +161,7 @@ const std::vector<PageSources>& SourcesOfPages() {
 }
 
 const std::vector<OtherNumber>& OtherNumbers() {
-    static const std::vector<OtherNumber> numbers{
-        {6161, "the page of four process axes, which the wizard says is not there"},
-        {6169, "the page of four mixture axes, likewise"}};
+    static const std::vector<OtherNumber> numbers{};
     return numbers;
 }
 

@@ -98,15 +98,16 @@ CompiledFormat Compiled(const FormatText<N>& format) {
     { #name, Compiled(texts::name) }
 const std::map<std::string, CompiledFormat>& CompiledFormats() {
     static const std::map<std::string, CompiledFormat> formats{
-        KVOPT_FORMAT(kAxesDuplicate),      KVOPT_FORMAT(kAxesIllegalName),
-        KVOPT_FORMAT(kAxesNotNumber),      KVOPT_FORMAT(kAxesLowNotBelowHigh),
-        KVOPT_FORMAT(kAxesIllegalSetting), KVOPT_FORMAT(kAxesOutsideRecommended),
-        KVOPT_FORMAT(kAxesNextSetting),    KVOPT_FORMAT(kConstantsDoubtful),
-        KVOPT_FORMAT(kConstantsMissing),   KVOPT_FORMAT(kSelectTitle),
-        KVOPT_FORMAT(kSelectItemsHeading), KVOPT_FORMAT(kSelectHeading),
-        KVOPT_FORMAT(kAvailableLabel),     KVOPT_FORMAT(kSelectedLabel),
-        KVOPT_FORMAT(kNothingSelected),    KVOPT_FORMAT(kStudyNameWithSetting),
-        KVOPT_FORMAT(kSpokenSlider),       KVOPT_FORMAT(kRiskLimitCaption)};
+        KVOPT_FORMAT(kAxesDuplicate),        KVOPT_FORMAT(kAxesIllegalName),
+        KVOPT_FORMAT(kAxesNotNumber),        KVOPT_FORMAT(kAxesLowNotBelowHigh),
+        KVOPT_FORMAT(kAxesIllegalSetting),   KVOPT_FORMAT(kAxesOutsideRecommended),
+        KVOPT_FORMAT(kAxesNextSetting),      KVOPT_FORMAT(kAxesUnknownSetting),
+        KVOPT_FORMAT(kConstantsDoubtful),    KVOPT_FORMAT(kConstantsMissing),
+        KVOPT_FORMAT(kSelectTitle),          KVOPT_FORMAT(kSelectItemsHeading),
+        KVOPT_FORMAT(kSelectHeading),        KVOPT_FORMAT(kAvailableLabel),
+        KVOPT_FORMAT(kSelectedLabel),        KVOPT_FORMAT(kNothingSelected),
+        KVOPT_FORMAT(kStudyNameWithSetting), KVOPT_FORMAT(kSpokenSlider),
+        KVOPT_FORMAT(kRiskLimitCaption)};
     return formats;
 }
 #undef KVOPT_FORMAT

@@ -123,8 +123,15 @@ protected:
     void GetMessageMap(MessageMap& map) override;
 
     const Investigation* GetInvestigation() const { return investigation_; }
+    /// Null for an axis that is not in the set.
+    AxisInfo* Axis(int axis) const;
     /// Null without a window and for a row that the page does not have.
     CComboBox* AxisCombo(int axis) const;
+    /// Shows or hides the edits and the Default button of a row.
+    void ShowRange(int axis, bool show);
+    /// Tells the user what was found and brings the page up, as CheckLegalAxes does, and gives its
+    /// answer. Nothing is shown when all is legal.
+    bool TellVerdict(AxisErrorSeverity severity, const std::string& message) const;
 
 private:
     struct Row {
@@ -135,8 +142,6 @@ private:
     };
     /// Nothing without a window and for a row that the page does not have.
     std::optional<Row> RowOf(int axis) const;
-    /// Null for an axis that is not in the set.
-    AxisInfo* Axis(int axis) const;
     AxisEntry EntryOf(int axis) const;
     bool ShowStoredAxis(int axis);
     bool ProposeDefault(int axis, std::set<std::string>& taken);
