@@ -6,6 +6,9 @@
 
 namespace {
 
+constexpr double kLeastScale = 0.5;
+constexpr double kLargestScale = 4.0;
+
 [[noreturn]] void Refuse(const std::string& what) {
     throw kvopt::InvalidArgument(what + "\n" + CommandLine::Usage());
 }
@@ -21,9 +24,9 @@ std::string RoadNames() {
 }  // namespace
 
 std::string CommandLine::Usage() {
-    return "usage: kvopt-demo [STUDY]\n"
+    return "usage: kvopt-demo [STUDY] [--scale FACTOR] [--dark]\n"
            "       kvopt-demo run ROAD STUDY [--script FILE] [--out DIR]\n"
-           "                  [--front scripted|qt] [--window]\n"
+           "                  [--front scripted|qt] [--window] [--scale FACTOR] [--dark]\n"
            "roads: " +
            RoadNames() + "\n";
 }
@@ -49,6 +52,14 @@ CommandLine CommandLine::Parse(const std::vector<std::string>& words) {
             result.out = value();
         } else if (word == "--window") {
             result.onDisplay = true;
+        } else if (word == "--dark") {
+            result.dark = true;
+        } else if (word == "--scale") {
+            const std::string& factor = value();
+            if (!kvopt::KvString::ToDouble(factor, result.scale) || result.scale < kLeastScale ||
+                result.scale > kLargestScale) {
+                Refuse("--scale takes a number from 0.5 to 4, not " + factor);
+            }
         } else if (word == "--front") {
             const std::string& front = value();
             if (front != "scripted" && front != "qt") {

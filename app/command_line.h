@@ -16,6 +16,8 @@ struct CommandLine {
     bool onDisplay = false;   ///< windows on the display, not offscreen
     FrontEnd frontEnd = FrontEnd::Scripted;
     bool frontEndNamed = false;
+    double scale = 1.0;  ///< of windows and pictures
+    bool dark = false;   ///< light texts on a dark ground
 
     /// Throws kvopt::InvalidArgument, which says which word is wrong and what was expected.
     static CommandLine Parse(const std::vector<std::string>& words);

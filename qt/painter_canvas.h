@@ -9,12 +9,13 @@
 namespace kvopt {
 
 /// A cell canvas over a painter. A cell begins in the palette's own colours. Renderers name colours
-/// that were chosen for a light ground: one that cannot be made out on the ground it meets, in a
-/// dark palette say, is drawn black or white, whichever shows better.
+/// that were chosen for a light ground: in a dark palette grounds are darkened, and a text or a
+/// mark that cannot be made out on the ground it meets is drawn lighter or darker.
 class PainterCanvas : public CellCanvas {
 public:
-    /// `cell` is the whole cell.
-    PainterCanvas(QPainter& painter, const CRect& cell, const QPalette& palette);
+    /// `cell` is the whole cell, and is filled; `marked` tints its ground with the highlight
+    /// colour.
+    PainterCanvas(QPainter& painter, const CRect& cell, const QPalette& palette, bool marked);
 
     void FillRect(const CRect& rect, Colour colour) override;
     void FrameRect(const CRect& rect, Colour colour) override;
@@ -24,11 +25,15 @@ public:
     void PrintText(const CRect& rect, std::string_view utf8, TextAlign align) override;
 
 private:
-    QColor Visible(const QColor& colour, double contrast) const;
+    void FillGround(const QColor& colour);
+    QColor Mark(Colour colour) const;
 
     QPainter& painter_;
     CRect cell_;
+    QColor base_;
+    QColor tint_;
     QColor ground_;
+    QColor ordinary_;
     QColor text_;
 };
 

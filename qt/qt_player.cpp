@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPixmap>
@@ -125,6 +126,8 @@ void QtPlayer::TakePicture(QWidget& window, const std::string& name) {
                              .arg(ToQt(std::string_view(folder_)))
                              .arg(pictures_.size() + 1, 2, 10, QLatin1Char('0'))
                              .arg(FileNameOf(name));
+    // A drop-down list that takes entries resizes itself, and its layout puts it right by an event.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     if (!window.grab().save(file)) {
         throw FileError(file.toStdString(), "the picture cannot be written");
     }

@@ -14,13 +14,15 @@
 #include "kvopt/qt/qt_desktop.h"
 #include "qt/page_view.h"
 #include "qt/qt_text.h"
+#include "qt/tab_pane.h"
 #include "resources/qt_texts.h"
 
 namespace kvopt {
 
 namespace {
 
-constexpr int kMinimumWidth = 460;
+/// How wide a sheet is at least, in characters.
+constexpr int kCharacters = 70;
 
 }  // namespace
 
@@ -29,12 +31,13 @@ SheetWindow::SheetWindow(QtDesktop& desktop, CPropertySheet& sheet, QWidget* par
     auto* column = new QVBoxLayout(this);
     if (sheet.IsWizard()) {
         AddHeading(*column);
+        column->addWidget(pages_, 1);
     } else {
         AddTabs(*column);
     }
-    column->addWidget(pages_, 1);
     AddFrameButtons(*column);
-    setMinimumWidth(kMinimumWidth);
+    // No minimum of the window's own: that would let it be narrower than its pages.
+    column->addStrut(fontMetrics().averageCharWidth() * kCharacters);
     ShowPage();
     ShowButtons();
 }
@@ -56,12 +59,12 @@ void SheetWindow::AddHeading(QVBoxLayout& column) {
 }
 
 void SheetWindow::AddTabs(QVBoxLayout& column) {
-    tabs_ = new QTabBar(this);
-    tabs_->setExpanding(false);
+    auto* pane = new TabPane(pages_, this);
+    tabs_ = &pane->Tabs();
     for (int index = 0; index < sheet_.GetPageCount(); ++index) {
         tabs_->addTab(ToQt(sheet_.GetPage(index)->PageTitle()));
     }
-    column.addWidget(tabs_);
+    column.addWidget(pane, 1);
     connect(tabs_, &QTabBar::currentChanged, this, [this](int index) {
         {
             // The page that is up may refuse to go: its tab stays in front until the model says.

@@ -9,13 +9,6 @@
 
 namespace kvopt {
 
-namespace {
-
-/// How much of the highlight colour lies over a marked cell, of 255.
-constexpr int kTint = 56;
-
-}  // namespace
-
 WorksheetDelegate::WorksheetDelegate(const WorksheetModel& cells, QObject* parent)
     : QStyledItemDelegate(parent), cells_(cells) {}
 
@@ -37,19 +30,14 @@ void WorksheetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     painter->save();
     painter->setClipRect(place);
     painter->setFont(option.font);
-    // The view has drawn a marked cell's ground already, in a colour that hides the renderers'.
-    painter->fillRect(place, option.palette.color(QPalette::Base));
-    PainterCanvas canvas(*painter, rect, option.palette);
+    const bool marked = (option.state & QStyle::State_Selected) != 0;
+    PainterCanvas canvas(*painter, rect, option.palette, marked);
     if (const VWSRenderer* renderer = content->GetCellRenderer(column, row)) {
         renderer->DrawCell(canvas, *content, column, row, rect);
     }
-    if ((option.state & QStyle::State_Selected) != 0) {
-        // A frame and a tint, so that field colours and sliders stay readable below.
-        QColor tint = option.palette.color(QPalette::Highlight);
-        painter->setPen(tint);
+    if (marked) {
+        painter->setPen(option.palette.color(QPalette::Highlight));
         painter->drawRect(place.adjusted(0, 0, -1, -1));
-        tint.setAlpha(kTint);
-        painter->fillRect(place, tint);
     }
     painter->restore();
 }

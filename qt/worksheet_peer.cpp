@@ -24,10 +24,13 @@ namespace kvopt {
 namespace {
 
 constexpr int kNameColumn = 1;
-/// Pixels that a row is higher than its text.
-constexpr int kRowPadding = 4;
+/// Pixels that a row is higher than its text: what a drop-down list in it needs.
+constexpr int kRowPadding = 9;
+/// Pixels that a cell keeps free beside its text.
+constexpr int kTextPadding = 4;
 constexpr int kRowsAtLeast = 4;
-constexpr int kWidestColumn = 300;
+/// Characters of the widest column that grows with its texts.
+constexpr int kWidestColumn = 44;
 
 bool IsIn(const CellRange& range, CPoint cell) {
     return cell.x >= range.firstColumn && cell.x <= range.lastColumn && cell.y >= range.firstRow &&
@@ -103,6 +106,7 @@ void WorksheetPeer::Push(WindowChange change) {
         cells_.Refresh();
         if (Content() != nullptr) {
             ShowColumns();
+            ShowRows();
             editors_->Show();
         }
     }
@@ -130,6 +134,7 @@ void WorksheetPeer::ShowColumns() {
     table_.verticalHeader()->setVisible(content.ColumnWidth(0) > 0);
     QHeaderView& header = *table_.horizontalHeader();
     const QAbstractItemView& texts = table_;
+    const int widest = table_.fontMetrics().averageCharWidth() * kWidestColumn;
     int needed = 0;
     for (int column = 1; column <= content.ColumnCount(); ++column) {
         int width = content.ColumnWidth(column);
@@ -140,7 +145,7 @@ void WorksheetPeer::ShowColumns() {
         // A slider is exactly as wide as the content says, since its pixels are values. The names
         // take what is left.
         if (!slides) {
-            width = std::max(width, std::min(texts.sizeHintForColumn(column - 1), kWidestColumn));
+            width = std::max(width, std::min(texts.sizeHintForColumn(column - 1), widest));
         }
         header.setSectionResizeMode(column - 1, slides                  ? QHeaderView::Fixed
                                                 : column == kNameColumn ? QHeaderView::Stretch
@@ -151,6 +156,24 @@ void WorksheetPeer::ShowColumns() {
     const int frame = 2 * table_.frameWidth();
     table_.setMinimumSize(needed + table_.verticalScrollBar()->sizeHint().width() + frame,
                           header.sizeHint().height() + kRowsAtLeast * rowHeight + frame);
+}
+
+void WorksheetPeer::ShowRows() {
+    const BaseWorksheetInterface& content = *Content();
+    const auto isEmpty = [&content](int row) {
+        for (int column = 1; column <= content.ColumnCount(); ++column) {
+            if (!content.GetCellText(column, row).empty()) {
+                return false;
+            }
+        }
+        return true;
+    };
+    // Rows that are kept behind the last one with something in it belong to the content alone.
+    bool isBehind = true;
+    for (int row = content.RowCount(); row >= 1; --row) {
+        isBehind = isBehind && isEmpty(row);
+        table_.setRowHidden(row - 1, isBehind);
+    }
 }
 
 void WorksheetPeer::ShowSelection() {
@@ -353,7 +376,7 @@ QString WorksheetPeer::TipAt(CPoint cell) const {
     // A text that its column cuts off can be read here.
     const QString text = ToQt(std::string_view(Content()->GetCellText(cell.x, cell.y)));
     const bool isCut =
-        table_.fontMetrics().horizontalAdvance(text) + kRowPadding > CellRect(cell).Width();
+        table_.fontMetrics().horizontalAdvance(text) + kTextPadding > CellRect(cell).Width();
     return isCut ? text : QString();
 }
 

@@ -67,6 +67,7 @@ private:
     QString TipAt(CPoint cell) const;
 
     void ShowColumns();
+    void ShowRows();
     void ShowSelection();
     void TakeSelection();
     void MarkTo(CPoint cell);

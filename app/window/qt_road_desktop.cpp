@@ -10,10 +10,15 @@ int wordCount = 1;
 char programName[] = "kvopt-demo";
 char* words[] = {programName, nullptr};
 
+kvopt::QtLook LookOf(const CommandLine& command) {
+    return {command.scale, command.dark};
+}
+
 class QtRoadDesktop : public RoadDesktop {
 public:
     explicit QtRoadDesktop(const CommandLine& command)
         : application_(wordCount, words), former_(kvopt::Desktop::Install(&desktop_)) {
+        LookOf(command).ApplyColours();
         if (!command.script.empty()) {
             player_ = std::make_unique<kvopt::QtPlayer>(
                 desktop_, kvopt::UserScript::FromFile(command.script));
@@ -40,5 +45,6 @@ std::unique_ptr<RoadDesktop> MakeQtRoadDesktop(const CommandLine& command) {
     if (!command.onDisplay) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    LookOf(command).ApplyScale();
     return std::make_unique<QtRoadDesktop>(command);
 }

@@ -11,7 +11,10 @@ int WindowTask(const CommandLine& command) {
     int wordCount = 1;
     char programName[] = "kvopt-demo";
     char* words[] = {programName, nullptr};
+    const kvopt::QtLook look{command.scale, command.dark};
+    look.ApplyScale();
     const QApplication application(wordCount, words);
+    look.ApplyColours();
 
     kvopt::QtDesktop desktop;
     kvopt::Desktop* const former = kvopt::Desktop::Install(&desktop);

@@ -77,6 +77,25 @@ TEST_F(Worksheets, ShowHeadingsTextsAndWidthsOfTheContent) {
     }});
 }
 
+TEST_F(Worksheets, HideEmptyRowsBelowTheLastOneThatHoldsSomething) {
+    Run({[&] {
+        page_.grid.AddRow(5, 3);
+        EXPECT_EQ(page_.grid.RowCount(), 7) << "the content keeps them";
+        for (int row = 5; row <= 7; ++row) {
+            EXPECT_TRUE(table_->isRowHidden(row - 1)) << row;
+        }
+        page_.grid.SetCellValue(2, 6, "0");
+        EXPECT_FALSE(table_->isRowHidden(4)) << "an empty row between others is seen";
+        EXPECT_FALSE(table_->isRowHidden(5));
+        EXPECT_TRUE(table_->isRowHidden(6));
+        page_.grid.SetCellValue(2, 6, "");
+        EXPECT_TRUE(table_->isRowHidden(4));
+        for (int row = 1; row <= 4; ++row) {
+            EXPECT_FALSE(table_->isRowHidden(row - 1)) << row;
+        }
+    }});
+}
+
 TEST_F(Worksheets, CommitACellOnReturnAndPressNoButton) {
     Run({[&] {
         Click(2, 1);

@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <memory>
 
+#include "kvopt/qt/qt_look.h"
+
 namespace kvopt::test {
 
 class QtApplicationOfTests : public testing::Environment {
@@ -18,6 +20,9 @@ public:
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
         application_ = std::make_unique<QApplication>(count_, words_);
+        // For pictures: KVOPT_DARK beside Qt's own QT_SCALE_FACTOR.
+        const QtLook look{1.0, !qEnvironmentVariableIsEmpty("KVOPT_DARK")};
+        look.ApplyColours();
     }
     void TearDown() override { application_.reset(); }
 
