@@ -6,4 +6,5 @@
 #include "kvopt/sheets/contour_page.h"
 #include "kvopt/sheets/contour_plot_options_page.h"
 #include "kvopt/sheets/contour_property_sheet.h"
+#include "kvopt/sheets/contour_sheet.h"
 #include "kvopt/sheets/contour_wizard.h"

@@ -1,9 +1,9 @@
 #include "kvopt/sheets/contour_page.h"
 
 #include "kvopt/platform.h"
-#include "kvopt/sheets/contour_plot_options_page.h"
 #include "kvopt/study.h"
 #include "kvopt/text.h"
+#include "sheets/contour_pages.h"
 #include "sheets/contour_templates.h"
 #include "sheets_texts.h"
 
@@ -30,6 +30,14 @@ int NextPage(int type, ContourPageData::AxisType axisType) {
         return fourAxes ? kProcess4DAxisTemplate : kProcessAxisTemplate;
     }
     return fourAxes ? kMixture4DAxisTemplate : kMixtureAxisTemplate;
+}
+
+const PlainText& OptionsTitle(bool designSpace, ContourPageData::Type type) {
+    if (designSpace) {
+        return texts::kDesignSpaceOptionsTitle;
+    }
+    return type == ContourPageData::surface_3D ? texts::kSurfaceOptionsTitle
+                                               : texts::kContourOptionsTitle;
 }
 
 }  // namespace
@@ -259,9 +267,7 @@ void ContourPage::OnRbContour() {
     EnableFactorAxisType();
     selectedType_ = type;
     SetHelpTopicID(HelpTopicOf(type));
-    pageData_.GetOptions().hasContourLabels = type == ContourPageData::contour_2D ||
-                                              type == ContourPageData::contour_4D ||
-                                              type == ContourPageData::ds_probability;
+    pageData_.GetOptions().hasContourLabels = ContourPageData::HasContourLabels(type);
     if (!scaleEqualChanged_) {
         scaleEqual_ = isDSProbability_ ||
                       (type != ContourPageData::contour_2D && type != ContourPageData::surface_3D);
@@ -283,14 +289,14 @@ void ContourPage::OnBPlotoptions() {
     }
     options.mixtureMode = mixtureButton_->GetCheck();
 
-    const bool surface = selectedType_ == ContourPageData::surface_3D;
-    const PlainText& title = surface ? texts::kSurfaceOptionsTitle : texts::kContourOptionsTitle;
-    KvPropertySheet sheet(title.Wide().c_str(), this, 0);
-    ContourPlotOptionsPage page(GetInvestigation(), pageData_, nullptr,
-                                surface ? kSurfaceOptionsTemplate : kContourOptionsTemplate,
-                                surface ? 402 : 64);
-    sheet.AddPage(&page);
-    if (sheet.DoModal() == kResultOk && !scaleEqualChanged_) {
+    const auto pages = ContourOptionsPages(GetInvestigation(), pageData_, isDSProbability_,
+                                           selectedType_, nullptr);
+    KvPropertySheet sheet(OptionsTitle(isDSProbability_, selectedType_).Wide().c_str(), this, 0);
+    for (const auto& page : pages) {
+        sheet.AddPage(page.get());
+    }
+    const bool confirmed = sheet.DoModal() == kResultOk;
+    if (confirmed && !isDSProbability_ && !scaleEqualChanged_) {
         scaleEqualChanged_ = options.scaleEqual != scaleEqual_;
     }
 }
@@ -327,12 +333,7 @@ int ContourPage::OnWizardNext() {
         }
         type = ContourPageData::ds_probability;
     }
-    const int next = NextPage(type, GetAxisType());
-    if (next == kProcess4DAxisTemplate || next == kMixture4DAxisTemplate) {
-        ShowMessage(this, texts::kFourAxesNotThere.Wide(), BoxStyle::Information);
-        return -1;
-    }
-    return next;
+    return NextPage(type, GetAxisType());
 }
 
 /// The wizard has passed over the choice of a plot type, so nothing lies on the outer axes.

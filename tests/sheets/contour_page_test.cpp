@@ -3,6 +3,8 @@
 #include <ostream>
 
 #include "axes/page_probe.h"
+#include "kvopt/designspace/design_space_interval_page.h"
+#include "kvopt/designspace/ds_contour_plot_options_page.h"
 
 namespace kvopt::test {
 namespace {
@@ -44,6 +46,12 @@ TEST_P(ContourHelp, GoesByTheTypeOfThePlot) {
 INSTANTIATE_TEST_SUITE_P(Types, ContourHelp,
                          testing::Values(HelpRow{0, 65}, HelpRow{1, 65}, HelpRow{2, 402},
                                          HelpRow{3, 402}, HelpRow{4, 104}));
+
+TEST_F(ContourPageTest, GivesTheHelpOfAContourOnceADesignSpaceIsShown) {
+    AddFactors({0, 0, 3, false});
+    MakeData(true);
+    EXPECT_EQ(Show().HelpTopicID(), 65U);
+}
 
 TEST_F(ContourPageTest, IsTheFirstPageOfTheWizard) {
     MakeData();
@@ -403,13 +411,10 @@ TEST_F(ContourPageTest, OffersNextAloneInAWizard) {
 
 // On to the axes.
 
-const std::string kFourAxesText =
-    "Plots of four axes cannot be made yet. Choose a contour or a surface plot.";
-
 struct NextRow {
     int type;
     bool mixture;
-    int next;  ///< -1 for the page that is not there yet
+    int next;
 };
 
 void PrintTo(const NextRow& row, std::ostream* out) {
@@ -433,25 +438,20 @@ TEST_P(NextPages, FollowTheTypeAndTheAxes) {
     ShowRow(false);
     EXPECT_EQ(Page().OnWizardNext(), GetParam().next);
     EXPECT_EQ(PageData().GetPlotType(), GetParam().type);
-    if (GetParam().next == -1) {
-        EXPECT_THAT(desktop.boxes, ElementsAre(SheetDesktop::Box{kFourAxesText, "", 64}));
-    } else {
-        EXPECT_THAT(desktop.boxes, IsEmpty());
-    }
+    EXPECT_THAT(desktop.boxes, IsEmpty());
 }
 
 TEST_P(NextPages, AreThoseOfFourAxesForEveryDesignSpace) {
     ShowRow(true);
-    EXPECT_EQ(Page().OnWizardNext(), -1);
-    EXPECT_THAT(desktop.boxes, ElementsAre(SheetDesktop::Box{kFourAxesText, "", 64}));
+    EXPECT_EQ(Page().OnWizardNext(), GetParam().mixture ? 6169 : 6161);
     EXPECT_EQ(PageData().GetPlotType(), ContourPageData::ds_probability);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, NextPages,
                          testing::Values(NextRow{0, false, 6160}, NextRow{0, true, 6168},
-                                         NextRow{1, false, -1}, NextRow{1, true, -1},
+                                         NextRow{1, false, 6161}, NextRow{1, true, 6169},
                                          NextRow{2, false, 6160}, NextRow{2, true, 6168},
-                                         NextRow{3, false, -1}, NextRow{3, true, -1}));
+                                         NextRow{3, false, 6161}, NextRow{3, true, 6169}));
 
 TEST_F(ContourPageTest, StoresBeforeTheSelectionIsChecked) {
     AddFactors({0, 0, 3, false});
@@ -491,26 +491,14 @@ TEST_P(OuterAxes, AreClearedForADesignSpaceThatReadsContour) {
     AddFactors({3, 1, 3, false});
     AddResponses(1);
     MakeData(GetParam().isDSProbability);
-    const auto set = [&](ContourPlotData::AxisType number, const Names& names) {
-        for (std::size_t i = 0; i < names.size(); ++i) {
-            Data().GetAxisInfo(number)[i + 1]->SetName(names[i]);
-        }
-    };
-    const auto namesOf = [&](ContourPlotData::AxisType number, std::size_t count) {
-        Names names;
-        for (std::size_t i = 1; i <= count; ++i) {
-            names.push_back(Data().GetAxisInfo(number)[i]->GetName());
-        }
-        return names;
-    };
-    set(ContourPlotData::Process4D, kProcessAxes);
-    set(ContourPlotData::Mixture4D, kMixtureAxes);
+    SetAxes(ContourPlotData::Process4D, kProcessAxes);
+    SetAxes(ContourPlotData::Mixture4D, kMixtureAxes);
     Show();
     Page().Choose(GetParam().type);
     (GetParam().mixture ? Page().Mixture() : Page().Process()).SetCheck(true);
     Page().OnWizardNext();
-    EXPECT_EQ(namesOf(ContourPlotData::Process4D, 4), GetParam().process);
-    EXPECT_EQ(namesOf(ContourPlotData::Mixture4D, 5), GetParam().blend);
+    EXPECT_EQ(AxesOf(ContourPlotData::Process4D, 4), GetParam().process);
+    EXPECT_EQ(AxesOf(ContourPlotData::Mixture4D, 5), GetParam().blend);
 }
 
 const std::string kUnused = AxisInfo::GetNotUsedName();
@@ -540,7 +528,7 @@ TEST_F(ContourPageTest, ClearsNoAxesWhenTheSelectionIsRefused) {
 
 class ContourOptionsDialog : public ContourPageTest {
 protected:
-    void SetUp() override {
+    ContourOptionsDialog() {
         AddFactors({3, 1, 3, false});
         AddResponses(1);
         MakeData();
@@ -672,6 +660,58 @@ TEST_F(ContourOptionsDialog, HoldsNoScaleThatWasStoredBeforeItWasCancelled) {
     EXPECT_TRUE(Options().scaleEqual);
     Page().TransferFromPage();
     EXPECT_FALSE(Options().scaleEqual);
+}
+
+TEST_F(ContourOptionsDialog, IsThatOfDesignSpacesWhateverTheType) {
+    MakeData(true);
+    Show();
+    for (const int type : {0, 1, 2}) {
+        Page().Choose(type);
+        Page().Mixture().SetCheck(type == 1);
+        Page().Process().SetCheck(type != 1);
+        Open([&](CPropertySheet& sheet, const CDialog&) {
+            EXPECT_EQ(sheet.GetText(), L"Design Space Contour Options");
+            ASSERT_EQ(sheet.GetPageCount(), 2);
+            EXPECT_NE(dynamic_cast<DSContourPlotOptionsPage*>(sheet.GetPage(0)), nullptr);
+            EXPECT_NE(dynamic_cast<DesignSpaceIntervalPage*>(sheet.GetPage(1)), nullptr);
+            EXPECT_EQ(sheet.GetActiveIndex(), 0);
+            EXPECT_FALSE(sheet.HasApply());
+            EXPECT_FALSE(sheet.IsWizard());
+            EXPECT_EQ(sheet.GetParent(), &Page());
+            EXPECT_TRUE(Options().scaleEqual);
+            EXPECT_EQ(Options().mixtureMode, type == 1);
+        });
+    }
+}
+
+TEST_F(ContourOptionsDialog, EditsTheIntervalOfADesignSpace) {
+    MakeData(true);
+    Options().confLev = CConfLev::Level99;
+    Options().tolProp = CConfLev::Level90;
+    Options().intervalType = CIntervalType::Prediction;
+    Show();
+    Open([](CPropertySheet& sheet, const CDialog&) {
+        EXPECT_TRUE(sheet.UserSelectPage(1));
+        const CPropertyPage& page = *sheet.GetActivePage();
+        EXPECT_EQ(page.Item<CComboBox>(6299)->GetCurSel(), 2);
+        EXPECT_EQ(page.Item<CComboBox>(6341)->GetCurSel(), 0);
+        EXPECT_EQ(page.Item<CComboBox>(6344)->GetCurSel(), 1);
+        EXPECT_TRUE(page.Item<CComboBox>(6344)->UserPick(0));
+        EXPECT_TRUE(sheet.UserOk());
+    });
+    EXPECT_EQ(Options().intervalType, CIntervalType::Confidence);
+}
+
+TEST_F(ContourOptionsDialog, NeverHoldsTheScaleOfADesignSpace) {
+    MakeData(true);
+    Show();
+    Page().Choose(1);
+    Open([this](CPropertySheet& sheet, const CDialog&) {
+        Options().scaleEqual = false;
+        sheet.UserOk();
+    });
+    Page().TransferFromPage();
+    EXPECT_TRUE(Options().scaleEqual);
 }
 
 TEST_F(ContourOptionsDialog, SavesTheResolutionAtOnce) {

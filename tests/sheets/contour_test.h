@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,6 +18,7 @@
 #include "kvopt/sheets.h"
 #include "kvopt/stores.h"
 #include "kvopt/study.h"
+#include "kvopt/text.h"
 #include "support/fake_study.h"
 #include "support/plot_compare.h"
 #include "support/recording_section.h"
@@ -32,6 +34,34 @@ struct FactorNumbers {
     int process = 0;  ///< without the qualitative ones
     bool filler = false;
 };
+
+/// Notes in a log what it is told to select.
+class ToldStudy : public FakeStudy {
+public:
+    explicit ToldStudy(SectionLog& log) : log_(log) {}
+    void SetSelectedResponses(const std::vector<std::string>& responses) override {
+        log_.push_back("study selects " + KvStdString::FormatStringVector(responses, ";"));
+        FakeStudy::SetSelectedResponses(responses);
+        if (onSelected) {
+            onSelected();
+        }
+    }
+    std::function<void()> onSelected;  ///< what the host does then
+
+private:
+    SectionLog& log_;
+};
+
+/// The lines of a log without those that note that something was read.
+inline SectionLog Changes(const SectionLog& log) {
+    SectionLog changes;
+    for (const std::string& line : log) {
+        if (line.find("] read ") == std::string::npos) {
+            changes.push_back(line);
+        }
+    }
+    return changes;
+}
 
 class ContourTest : public testing::Test {
 protected:
@@ -69,14 +99,30 @@ protected:
     }
 
     /// Makes the plot that Data() gives.
-    ContourPlotData& MakeData(bool isDSProbability = false, bool hideSurface = false) {
-        data_ = std::make_unique<ContourPlotData>(&study, 0, kIniFile, isDSProbability, false,
-                                                  hideSurface, false);
+    ContourPlotData& MakeData(bool isDSProbability = false, bool hideSurface = false,
+                              bool fromDesignSpace = false) {
+        data_ = std::make_unique<ContourPlotData>(&study, 0, kIniFile, isDSProbability,
+                                                  fromDesignSpace, hideSurface, false);
         return *data_;
     }
     ContourPlotData& Data() { return *data_; }
     ContourPageData& PageData() { return *data_->GetContourTypeData(); }
     ContourPageData::Arguments& Options() { return PageData().GetOptions(); }
+
+    /// Puts factors on the axes of a set, each with a range that is legal for parts and numbers.
+    void SetAxes(ContourPlotData::AxisType set, const Names& names) {
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            Data().GetAxisInfo(set)[i + 1]->SetName(names[i]);
+            Data().GetAxisInfo(set)[i + 1]->SetRange(0.125F, 0.875F);
+        }
+    }
+    Names AxesOf(ContourPlotData::AxisType set, std::size_t count) {
+        Names names;
+        for (std::size_t i = 1; i <= count; ++i) {
+            names.push_back(Data().GetAxisInfo(set)[i]->GetName());
+        }
+        return names;
+    }
 
     /// What the user's profile remembers; 0 for nothing.
     static int Profile(const std::string& key) {
@@ -87,7 +133,7 @@ protected:
 
     MemoryIniFiles files;
     SheetDesktop desktop;
-    FakeStudy study;
+    ToldStudy study{files.Log()};
 
 private:
     std::shared_ptr<UserProfile> formerProfile_;

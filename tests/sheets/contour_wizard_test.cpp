@@ -1,9 +1,14 @@
 #include "kvopt/sheets/contour_wizard.h"
 
+#include <algorithm>
 #include <functional>
 #include <ostream>
 #include <tuple>
 
+#include "axes/page_probe.h"
+#include "kvopt/axes.h"
+#include "kvopt/constants.h"
+#include "sheets/contour_settings_rows.h"
 #include "sheets/contour_test.h"
 
 namespace kvopt::test {
@@ -44,6 +49,7 @@ struct TitleRow {
     bool isDesirability;
     std::wstring title;
     unsigned axisHelp;
+    unsigned outerAxisHelp;
 };
 
 void PrintTo(const TitleRow& row, std::ostream* out) {
@@ -63,6 +69,10 @@ TEST_P(ContourWizardTitles, SayWhatPlotItIs) {
         EXPECT_EQ(sheet.GetPage(0)->PageTitle(), GetParam().title);
         EXPECT_EQ(HelpOf(sheet, 1), GetParam().axisHelp);
         EXPECT_EQ(HelpOf(sheet, 2), GetParam().axisHelp);
+        EXPECT_EQ(HelpOf(sheet, 3), GetParam().outerAxisHelp);
+        EXPECT_EQ(HelpOf(sheet, 4), GetParam().outerAxisHelp);
+        EXPECT_EQ(HelpOf(sheet, 5), kNoHelp);
+        EXPECT_EQ(HelpOf(sheet, 6), kNoHelp);
     };
     EXPECT_FALSE(Run(true, GetParam().isDesirability));
     EXPECT_TRUE(seen);
@@ -70,10 +80,11 @@ TEST_P(ContourWizardTitles, SayWhatPlotItIs) {
 
 INSTANTIATE_TEST_SUITE_P(
     Plots, ContourWizardTitles,
-    testing::Values(TitleRow{"Contour", false, false, L"Contour Plot", 1},
-                    TitleRow{"DesignSpace", true, false, L"Design Space Plot", 98},
-                    TitleRow{"Desirability", false, true, L"Desirability Plot", 1},
-                    TitleRow{"DesirabilityOfADesignSpace", true, true, L"Desirability Plot", 98}),
+    testing::Values(TitleRow{"Contour", false, false, L"Contour Plot", 1, 2},
+                    TitleRow{"DesignSpace", true, false, L"Design Space Plot", 98, 98},
+                    TitleRow{"Desirability", false, true, L"Desirability Plot", 1, 2},
+                    TitleRow{"DesirabilityOfADesignSpace", true, true, L"Desirability Plot", 98,
+                             98}),
     testing::PrintToStringParamName());
 
 TEST_F(ContourWizardTest, HoldsItsPagesInOrderAndStartsWithTheFirst) {
@@ -83,12 +94,15 @@ TEST_F(ContourWizardTest, HoldsItsPagesInOrderAndStartsWithTheFirst) {
         for (int i = 0; i < sheet.GetPageCount(); ++i) {
             templates.push_back(sheet.GetPage(i)->TemplateNumber());
         }
-        EXPECT_THAT(templates, ElementsAre(6158, 6160, 6168));
+        EXPECT_THAT(templates, ElementsAre(6158, 6160, 6168, 6161, 6169, 6157, 6170));
         EXPECT_EQ(sheet.GetActiveIndex(), 0);
         EXPECT_EQ(sheet.WizardButtons(), 2UL);
         EXPECT_EQ(sheet.GetParent(), nullptr);
-        EXPECT_EQ(sheet.GetPage(1)->OnWizardBack(), 6158);
-        EXPECT_EQ(sheet.GetPage(2)->OnWizardBack(), 6158);
+        std::vector<int> back;
+        for (int i = 1; i < sheet.GetPageCount(); ++i) {
+            back.push_back(sheet.GetPage(i)->OnWizardBack());
+        }
+        EXPECT_THAT(back, ElementsAre(6158, 6158, 6158, 6158, 6161, 6169));
     };
     Run(true);
 }
@@ -138,6 +152,7 @@ TEST_F(ContourWizardTest, ShowsTheAxesOfItsSetsAndThePlotsConstants) {
         EXPECT_TRUE(sheet.GetActivePage()->Item<CButton>(6105)->UserClick());
         ASSERT_TRUE(sheet.UserNext());
         EXPECT_EQ(sheet.GetActivePage()->TemplateNumber(), 6168);
+        EXPECT_EQ(sheet.WizardButtons(), 5UL);
         EXPECT_EQ(sheet.GetActivePage()->Item<CComboBox>(6036)->GetText(), L"M3");
         EXPECT_EQ(sheet.GetActivePage()->Item<CComboBox>(6037)->GetText(), L"M1");
         EXPECT_EQ(sheet.GetActivePage()->Item<CComboBox>(6038)->GetText(), L"M2");
@@ -145,20 +160,204 @@ TEST_F(ContourWizardTest, ShowsTheAxesOfItsSetsAndThePlotsConstants) {
     Run(true);
 }
 
-TEST_F(ContourWizardTest, SaysThatPlotsOfFourAxesAreNotThereYet) {
-    MakeData();
-    desktop.user = [](CPropertySheet& sheet) {
-        EXPECT_TRUE(sheet.GetActivePage()->Item<CButton>(6097)->UserClick());
-        sheet.UserNext();
-        EXPECT_EQ(sheet.GetActiveIndex(), 0);
+// Plots of four axes.
+
+/// A wizard that has been led to the 4D axes of a process or a mixture plot.
+class ContourWizard4D : public ContourWizardTest, public testing::WithParamInterface<bool> {
+protected:
+    ContourWizard4D() {
+        study.Number("P3", 0, 10);
+        study.Number("P4", 0, 10);
+        study.Part("M4");
+    }
+    bool IsMixture() const { return GetParam(); }
+    int AxisTemplate() const { return IsMixture() ? 6169 : 6161; }
+    int ConstantsTemplate() const { return IsMixture() ? 6170 : 6157; }
+    ContourPlotData::AxisType Set() const {
+        return IsMixture() ? ContourPlotData::Mixture4D : ContourPlotData::Process4D;
+    }
+    void MakePlot(bool isDSProbability = false, bool fromDesignSpace = false) {
+        MakeData(isDSProbability, false, fromDesignSpace);
+        SetAxes(ContourPlotData::Process4D, {"P1", "P2", "P3", AxisInfo::GetNotUsedName()});
+        SetAxes(ContourPlotData::Mixture4D, {"M1", "M2", "M3", "P1", AxisInfo::GetNotUsedName()});
+    }
+    void GoToAxes(CPropertySheet& sheet) {
+        const CPropertyPage& first = *sheet.GetActivePage();
+        EXPECT_TRUE(first.Item<CButton>(6097)->UserClick());
+        EXPECT_TRUE(first.Item<CButton>(IsMixture() ? 6105 : 6115)->UserClick());
+        EXPECT_TRUE(sheet.UserNext());
+        EXPECT_EQ(sheet.GetActivePage()->TemplateNumber(), AxisTemplate());
+    }
+    VWSConstantInterface& GoToConstants(CPropertySheet& sheet) {
+        EXPECT_TRUE(sheet.UserNext());
+        EXPECT_EQ(sheet.GetActivePage()->TemplateNumber(), ConstantsTemplate());
+        return dynamic_cast<ConstantsPage&>(*sheet.GetActivePage()).Grid();
+    }
+    static Names RowsOf(const VWSConstantInterface& grid) {
+        Names names;
+        for (int row = 1; !grid.GetCellText(1, row).empty(); ++row) {
+            names.push_back(grid.GetCellText(1, row));
+        }
+        return names;
+    }
+};
+
+TEST_P(ContourWizard4D, GoesForwardsAndBackwardsOverAxesAndConstants) {
+    MakePlot();
+    desktop.user = [this](CPropertySheet& sheet) {
+        GoToAxes(sheet);
+        EXPECT_EQ(sheet.WizardButtons(), 7UL);
+        GoToConstants(sheet);
+        EXPECT_EQ(sheet.WizardButtons(), 5UL);
+        EXPECT_TRUE(sheet.UserBack());
+        EXPECT_EQ(sheet.GetActivePage()->TemplateNumber(), AxisTemplate());
+        EXPECT_TRUE(sheet.UserBack());
+        EXPECT_EQ(sheet.GetActivePage()->TemplateNumber(), 6158);
+        EXPECT_TRUE(sheet.UserNext());
+        GoToConstants(sheet);
+        EXPECT_TRUE(sheet.UserFinish());
     };
-    EXPECT_FALSE(Run(true));
-    ASSERT_EQ(desktop.boxes.size(), 1U);
-    EXPECT_EQ(desktop.boxes[0],
-              (SheetDesktop::Box{
-                  "Plots of four axes cannot be made yet. Choose a contour or a surface plot.",
-                  "Contour Plot", 64}));
+    EXPECT_TRUE(Run(false));
+    EXPECT_THAT(desktop.boxes, IsEmpty());
 }
+
+TEST_P(ContourWizard4D, ShowsTheAxesOfItsSet) {
+    MakePlot();
+    const Names names =
+        IsMixture() ? Names{"M4", "M1", "M3", "P4", "P2"} : Names{"P4", "P2", "P1", "P3"};
+    SetAxes(Set(), names);
+    desktop.user = [&](CPropertySheet& sheet) {
+        GoToAxes(sheet);
+        const auto& page = dynamic_cast<AxisPage&>(*sheet.GetActivePage());
+        ASSERT_EQ(page.NAxis(), static_cast<int>(names.size()));
+        for (int axis = 1; axis <= page.NAxis(); ++axis) {
+            EXPECT_EQ(page.NameAxis(axis), names[static_cast<std::size_t>(axis - 1)]);
+        }
+    };
+    Run(false);
+}
+
+TEST_P(ContourWizard4D, ProposesTheDefaultsOfThePlot) {
+    MakePlot();
+    const std::string name = IsMixture() ? "M2" : "P2";
+    for (const auto& axis : Data().GetAxisDefaults()) {
+        if (axis && axis->GetName() == name) {
+            axis->SetRange(0.25F, 0.5F);
+        }
+    }
+    desktop.user = [&](CPropertySheet& sheet) {
+        GoToAxes(sheet);
+        auto& page = dynamic_cast<AxisPage&>(*sheet.GetActivePage());
+        EXPECT_GE(page.SelectString(1, name), 0);
+        EXPECT_EQ(page.GetMin(1), 0.25);
+        EXPECT_EQ(page.GetMax(1), 0.5);
+    };
+    Run(false);
+}
+
+TEST_P(ContourWizard4D, SpeaksOfTheConstantsToComeOrShowsThePrecisionOfFactors) {
+    for (const bool isDSProbability : {false, true}) {
+        MakePlot(isDSProbability);
+        desktop.user = [&](CPropertySheet& sheet) {
+            GoToAxes(sheet);
+            const CPropertyPage& page = *sheet.GetActivePage();
+            EXPECT_EQ(page.GetDlgItem(6139)->IsVisible(), !isDSProbability);
+            EXPECT_EQ(page.GetDlgItem(6279)->IsVisible(), isDSProbability);
+        };
+        Run(false);
+    }
+}
+
+TEST_P(ContourWizard4D, EditsTheConstantsOfThePlot) {
+    MakePlot();
+    const std::string factor = "P4";
+    desktop.user = [&](CPropertySheet& sheet) {
+        GoToAxes(sheet);
+        VWSConstantInterface& grid = GoToConstants(sheet);
+        const Names rows = RowsOf(grid);
+        const auto found = std::find(rows.begin(), rows.end(), factor);
+        ASSERT_NE(found, rows.end());
+        EXPECT_TRUE(grid.UserChangedData(2, 1 + static_cast<int>(found - rows.begin()), "2.5"));
+        EXPECT_TRUE(sheet.UserFinish());
+    };
+    EXPECT_TRUE(Run(false));
+    const FactorConstants::Constant* constants = Data().GetPlotConstants();
+    EXPECT_EQ(constants[FactorConstants::Lookup(constants, factor)].FloatValue(), 2.5);
+}
+
+TEST_P(ContourWizard4D, AsksItsAxesForTheConstants) {
+    MakePlot();
+    study.unavailable = {"P4"};
+    desktop.user = [&](CPropertySheet& sheet) {
+        GoToAxes(sheet);
+        const Names rows = RowsOf(GoToConstants(sheet));
+        EXPECT_EQ(rows, (IsMixture() ? Names{"P2", "P3", "M4"} : Names{"M1", "M2", "M3", "M4"}));
+    };
+    Run(false);
+    // A response from outside the study: its model is not known.
+    study.ExtraResponse("Elsewhere", ResponseEx::External);
+    MakePlot();
+    desktop.user = [&](CPropertySheet& sheet) {
+        GoToAxes(sheet);
+        EXPECT_THAT(RowsOf(GoToConstants(sheet)), Contains("P4"));
+    };
+    Run(false);
+}
+
+TEST_P(ContourWizard4D, LetsTheConstantsOfADesignSpaceBeReadAlone) {
+    for (const bool isDSProbability : {false, true}) {
+        for (const bool fromDesignSpace : {false, true}) {
+            MakePlot(isDSProbability, fromDesignSpace);
+            bool seen = false;
+            desktop.user = [&](CPropertySheet& sheet) {
+                seen = true;
+                const auto& page =
+                    dynamic_cast<ConstantsPage&>(*sheet.GetPage(IsMixture() ? 6 : 5));
+                EXPECT_EQ(page.Grid().IsReadOnly(), isDSProbability && fromDesignSpace)
+                    << isDSProbability << fromDesignSpace;
+            };
+            Run(false);
+            EXPECT_TRUE(seen);
+        }
+    }
+}
+
+TEST_P(ContourWizard4D, WritesItsAxesWhenItIsFinished) {
+    MakePlot();
+    desktop.user = [this](CPropertySheet& sheet) {
+        GoToAxes(sheet);
+        GoToConstants(sheet);
+        EXPECT_TRUE(sheet.UserFinish());
+    };
+    files.Log().clear();
+    EXPECT_TRUE(Run(true));
+    const SectionLog written = Changes(files.Log());
+    files.Log().clear();
+    Data().Write4DSettings(Set());
+    EXPECT_EQ(written, Changes(files.Log()));
+    EXPECT_EQ(AxesOf(Set(), 3), (IsMixture() ? Names{"M1", "M2", "M3"} : Names{"P1", "P2", "P3"}));
+}
+
+TEST_P(ContourWizard4D, ClearsTheOuterAxesOfADesignSpaceThatReadsContour) {
+    MakePlot(true);
+    desktop.user = [this](CPropertySheet& sheet) {
+        const CPropertyPage& first = *sheet.GetActivePage();
+        EXPECT_TRUE(first.Item<CButton>(6096)->GetCheck());
+        EXPECT_FALSE(first.Item<CButton>(6126)->IsVisible());
+        EXPECT_TRUE(first.Item<CButton>(IsMixture() ? 6105 : 6115)->UserClick());
+        EXPECT_TRUE(sheet.UserNext());
+        EXPECT_EQ(sheet.GetActivePage()->TemplateNumber(), AxisTemplate());
+        EXPECT_EQ(RowProbe(*sheet.GetActivePage(), IsMixture() ? 4 : 3).Name(),
+                  AxisInfo::GetNotUsedName());
+        EXPECT_TRUE(sheet.UserFinish());
+    };
+    EXPECT_TRUE(Run(false));
+    EXPECT_FALSE(Data().GetAxisInfo(Set())[IsMixture() ? 4 : 3]->IsUsed());
+    EXPECT_EQ(PageData().GetPlotType(), ContourPageData::ds_probability);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, ContourWizard4D, testing::Bool(),
+                         [](const auto& row) { return row.param ? "Mixture" : "Process"; });
 
 // A design region.
 
@@ -190,18 +389,7 @@ TEST_F(ContourWizardTest, IsTrueOnlyWhenItIsFinished) {
     EXPECT_THAT(WrittenKeys(files.Log()), IsEmpty());
 }
 
-struct WrittenRow {
-    const char* label;
-    int type;
-    bool mixture;
-    std::function<void(ContourPlotData&)> same;  ///< writes what the wizard has to write
-};
-
-void PrintTo(const WrittenRow& row, std::ostream* out) {
-    *out << row.label;
-}
-
-class WrittenSettings : public ContourWizardTest, public testing::WithParamInterface<WrittenRow> {
+class WrittenSettings : public ContourWizardTest, public testing::WithParamInterface<SettingsRow> {
 protected:
     /// The wizard of a design region goes straight to its end, whatever the type of the plot.
     SectionLog WrittenByWizard(bool writeSettings) {
@@ -213,22 +401,12 @@ protected:
         desktop.user = [](CPropertySheet& sheet) { EXPECT_TRUE(sheet.UserFinish()); };
         files.Log().clear();
         EXPECT_TRUE(Run(writeSettings));
-        return files.Log();
-    }
-    /// With nothing of the sort that only reads.
-    static SectionLog Changes(const SectionLog& log) {
-        SectionLog changes;
-        for (const std::string& line : log) {
-            if (line.find("] read ") == std::string::npos) {
-                changes.push_back(line);
-            }
-        }
-        return changes;
+        return Changes(files.Log());
     }
 };
 
 TEST_P(WrittenSettings, GoByTheTypeOfThePlot) {
-    const SectionLog written = Changes(WrittenByWizard(true));
+    const SectionLog written = WrittenByWizard(true);
     files.Log().clear();
     GetParam().same(Data());
     EXPECT_EQ(written, Changes(files.Log()));
@@ -236,41 +414,18 @@ TEST_P(WrittenSettings, GoByTheTypeOfThePlot) {
 }
 
 TEST_P(WrittenSettings, AreNoneWhenTheHostWantsNone) {
-    EXPECT_THAT(Changes(WrittenByWizard(false)), IsEmpty());
+    EXPECT_THAT(WrittenByWizard(false), IsEmpty());
 }
 
-void Write(ContourPlotData& data, WizardPlotData::PlotAxisType type, int set, int numAxes) {
-    data.WriteSettings(type, set, numAxes, true);
-}
-void WriteProcess(ContourPlotData& data) {
-    Write(data, WizardPlotData::ContourAxis2D, 1, 2);
-}
-void WriteMixture(ContourPlotData& data) {
-    Write(data, WizardPlotData::ContourAxisMixture, 3, 3);
-}
-void WriteProcess4D(ContourPlotData& data) {
-    data.Write4DSettings(ContourPlotData::Process4D);
-}
-void WriteMixture4D(ContourPlotData& data) {
-    data.Write4DSettings(ContourPlotData::Mixture4D);
-}
+INSTANTIATE_TEST_SUITE_P(Types, WrittenSettings, KnownTypes(), testing::PrintToStringParamName());
+
 void WriteOptions(ContourPlotData& data) {
     data.GetContourTypeData()->SaveSettings(std::string("study.ini"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Types, WrittenSettings,
-                         testing::Values(WrittenRow{"ContourProcess", 0, false, WriteProcess},
-                                         WrittenRow{"ContourMixture", 0, true, WriteMixture},
-                                         WrittenRow{"Contour4DProcess", 1, false, WriteProcess4D},
-                                         WrittenRow{"Contour4DMixture", 1, true, WriteMixture4D},
-                                         WrittenRow{"SurfaceProcess", 2, false, WriteProcess},
-                                         WrittenRow{"SurfaceMixture", 2, true, WriteMixture},
-                                         WrittenRow{"Surface4DProcess", 3, false, WriteProcess4D},
-                                         WrittenRow{"Surface4DMixture", 3, true, WriteMixture4D},
-                                         WrittenRow{"DesignSpaceProcess", 4, false, WriteProcess4D},
-                                         WrittenRow{"DesignSpaceMixture", 4, true, WriteMixture4D},
-                                         WrittenRow{"UnknownProcess", 9, false, WriteOptions},
-                                         WrittenRow{"UnknownMixture", 9, true, WriteOptions}),
+INSTANTIATE_TEST_SUITE_P(UnknownType, WrittenSettings,
+                         testing::Values(SettingsRow{"Process", 9, false, WriteOptions},
+                                         SettingsRow{"Mixture", 9, true, WriteOptions}),
                          testing::PrintToStringParamName());
 
 TEST_F(ContourWizardTest, FlushesWhatItHasWritten) {
