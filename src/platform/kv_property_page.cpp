@@ -6,7 +6,7 @@
 #include "kvopt/platform/keys.h"
 #include "kvopt/platform/kv_property_sheet.h"
 #include "kvopt/platform/property_page_helper.h"
-#include "kvopt/platform/wait_cursor.h"
+#include "page_updates.h"
 
 namespace kvopt {
 
@@ -20,19 +20,11 @@ KvPropertyPage::KvPropertyPage(unsigned templateNumber, unsigned captionNumber,
 KvPropertyPage::~KvPropertyPage() = default;
 
 void KvPropertyPage::Changed() {
-    if (!changed_ && helper_ != nullptr) {
-        helper_->AddUpdate();
-    }
-    changed_ = true;
-    SetModified(true);
+    MarkChanged(*this, changed_, helper_);
 }
 
 void KvPropertyPage::Unchanged() {
-    if (changed_ && helper_ != nullptr) {
-        helper_->RemoveUpdate();
-    }
-    changed_ = false;
-    SetModified(false);
+    MarkUnchanged(*this, changed_, helper_);
 }
 
 bool KvPropertyPage::IsChanged() const {
@@ -83,14 +75,7 @@ bool KvPropertyPage::OnInitDialog() {
 }
 
 bool KvPropertyPage::OnApply() {
-    const CWaitCursor wait;
-    if (!IsChanged() || helper_ == nullptr) {
-        OnOK();
-    } else if (helper_->Connected() == 1 && !helper_->Update()) {
-        return false;
-    }
-    Unchanged();
-    return true;
+    return ApplyPage(*this, helper_);
 }
 
 void KvPropertyPage::OnCancel() {

@@ -85,6 +85,11 @@ const Controls kSetpoint{
     {6252, ControlKind::Check}, {6260, ControlKind::Radio}, {6261, ControlKind::Radio},
     {6277, ControlKind::Check}, {6270, ControlKind::Push}};
 
+const Controls kOptionsGrid{{6337, ControlKind::Markup},
+                            {6334, ControlKind::PropertyGrid},
+                            {6335, ControlKind::Push},
+                            {6336, ControlKind::Push}};
+
 }  // namespace
 
 std::vector<int> AllTemplateNumbers() {
@@ -130,7 +135,9 @@ const std::vector<PageOfTemplate>& PagesOfTemplates() {
           {6351, ControlKind::Label}}},
         // A design space plot has no levels to lock.
         {"DSContourPlotOptionsPage", 6221, kDesignSpaceOptions, {6223}},
-        {"DesignSpacePage", 6209, kSetpoint}};
+        {"DesignSpacePage", 6209, kSetpoint},
+        {"OptionsPageBase", 6350, kOptionsGrid},
+        {"KvXtpOptionsPageBase", 6222, kOptionsGrid}};
     return pages;
 }
 
@@ -156,7 +163,10 @@ const std::vector<PageSources>& SourcesOfPages() {
         {"ConfidenceLevelPage", {"statpages/confidence_level_page.cpp"}},
         {"PredictionLevelPage", {"statpages/prediction_level_page.cpp"}},
         {"DSContourPlotOptionsPage", {"designspace/ds_contour_plot_options_page.cpp"}},
-        {"DesignSpacePage", {"designspace/design_space_page.cpp"}}};
+        {"DesignSpacePage", {"designspace/design_space_page.cpp"}},
+        {"OptionsPageBase", {"options/grid_page.cpp", "options/options_page_base.cpp"}},
+        {"KvXtpOptionsPageBase",
+         {"options/grid_page.cpp", "options/kv_xtp_options_page_base.cpp"}}};
     return sources;
 }
 

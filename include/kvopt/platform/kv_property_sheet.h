@@ -5,15 +5,11 @@
 
 namespace kvopt {
 
-class KvPropertyPage;
-
-/// The sheet that holds the library's pages.
+/// The sheet that holds the library's pages, of either kind.
 class KVOPT_EXPORT KvPropertySheet : public CPropertySheet {
 public:
     /// `startPage` is the zero-based index of the page to start with.
     KvPropertySheet(const wchar_t* caption, CWnd* parent, unsigned startPage);
-
-    void AddPage(KvPropertyPage* page);
 };
 
 }  // namespace kvopt
