@@ -5,6 +5,7 @@
 #include "kvopt/platform/controls.h"
 #include "kvopt/platform/desktop.h"
 #include "kvopt/platform/dialog.h"
+#include "kvopt/platform/property_grid.h"
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/platform/virtual_worksheet.h"
 #include "kvopt/scripted/slider_path.h"
@@ -111,12 +112,17 @@ bool ModelGestures::PressKey(const StepScope& scope, const KeyStroke& key) {
     if (worksheet != nullptr && KeyToWorksheet(*worksheet, key)) {
         return true;
     }
+    auto* grid = dynamic_cast<CXTPPropertyGrid*>(dialog->GetFocusControl());
+    if (grid != nullptr && KeyToGrid(*grid, key)) {
+        return true;
+    }
     auto* button = dynamic_cast<CButton*>(dialog->GetFocusControl());
     if (button != nullptr && button->Kind() == ControlKind::Push && key == KeyStroke{kKeyReturn}) {
         return button->UserClick();
     }
-    // Return belongs to the worksheet that has the focus, edited or not: it never presses OK.
-    const bool isKept = worksheet != nullptr && key == KeyStroke{kKeyReturn};
+    // Return belongs to the worksheet or the property grid that has the focus, edited or not: it
+    // never presses OK.
+    const bool isKept = (worksheet != nullptr || grid != nullptr) && key == KeyStroke{kKeyReturn};
     return !isKept && KeyToFrame(scope, key);
 }
 
@@ -134,6 +140,16 @@ bool ModelGestures::KeyToWorksheet(VirtualWorksheet& worksheet, const KeyStroke&
         return worksheet.UserCommand(kCommandPaste);
     }
     return key == KeyStroke{'A', true} && worksheet.UserCommand(kCommandSelectAll);
+}
+
+bool ModelGestures::KeyToGrid(CXTPPropertyGrid& grid, const KeyStroke& key) {
+    if (grid.EditedItem() == nullptr) {
+        return key == KeyStroke{kKeyReturn} && grid.UserBeginEdit(grid.GetSelectedItem());
+    }
+    if (key == KeyStroke{kKeyReturn}) {
+        return grid.UserCommit();
+    }
+    return key == KeyStroke{kKeyEscape} && grid.UserAbandon();
 }
 
 bool ModelGestures::KeyToFrame(const StepScope& scope, const KeyStroke& key) {
@@ -200,6 +216,31 @@ bool ModelGestures::ContextMenu(VirtualWorksheet& worksheet, CPoint cell, CPoint
     const bool isMarked = cell.x >= marked.firstColumn && cell.x <= marked.lastColumn &&
                           cell.y >= marked.firstRow && cell.y <= marked.lastRow;
     return (isMarked || worksheet.UserSelectCell(cell)) && worksheet.UserContextMenu(pixel);
+}
+
+bool ModelGestures::SelectRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) {
+    return grid.UserSelect(&row);
+}
+
+bool ModelGestures::ToggleRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) {
+    return grid.UserToggle(&row);
+}
+
+bool ModelGestures::ExpandRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, bool expand) {
+    return grid.UserExpand(&row, expand);
+}
+
+bool ModelGestures::PickInRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, int choice) {
+    return grid.UserPick(&row, choice);
+}
+
+bool ModelGestures::TypeIntoRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row,
+                                const std::wstring& text, bool commit) {
+    bool accepted = grid.UserBeginEdit(&row) && (grid.EditorText().empty() || grid.UserEdit(L""));
+    for (const wchar_t character : text) {
+        accepted = accepted && grid.UserEdit(grid.EditorText() + character);
+    }
+    return accepted && (!commit || grid.UserCommit());
 }
 
 bool ModelGestures::Wait(unsigned milliseconds) {

@@ -35,12 +35,19 @@ public:
     bool PressMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) override;
     bool ReleaseMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) override;
     bool ContextMenu(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) override;
+    bool SelectRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) override;
+    bool ToggleRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) override;
+    bool ExpandRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, bool expand) override;
+    bool PickInRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, int choice) override;
+    bool TypeIntoRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, const std::wstring& text,
+                     bool commit) override;
     bool Wait(unsigned milliseconds) override;
     bool TakePicture(const std::string& name) override;
 
 private:
     bool PressOnSheet(CPropertySheet& sheet, FrameButton button);
     bool KeyToWorksheet(VirtualWorksheet& worksheet, const KeyStroke& key);
+    bool KeyToGrid(CXTPPropertyGrid& grid, const KeyStroke& key);
     bool KeyToFrame(const StepScope& scope, const KeyStroke& key);
 
     VirtualClock& clock_;

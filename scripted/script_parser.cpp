@@ -97,6 +97,13 @@ void ScriptParser::TakeArguments(UserStep& step) {
             TakeText(step, "a text");
             break;
         case StepVerb::Edit:
+            step.target = TakeEditable();
+            TakeText(step, "a text");
+            break;
+        case StepVerb::Expand:
+        case StepVerb::Collapse:
+            step.target = TakeItemAfterKeyword();
+            break;
         case StepVerb::ExpectTip:
             step.target = TakeCellAfterKeyword();
             TakeText(step, "a text");
@@ -172,6 +179,7 @@ void ScriptParser::TakeArguments(UserStep& step) {
             step.cursor = *cursor;
             break;
         }
+        case StepVerb::ExpectDescription:
         case StepVerb::ExpectClipboard:
             TakeText(step, "a text");
             break;
@@ -182,7 +190,10 @@ StepTarget ScriptParser::TakeTarget() {
     if (TakeKeyword("cell")) {
         return TakeCell();
     }
-    const ScriptWord& word = Take("a control: its number, its name in quotes, or cell");
+    if (TakeKeyword("item")) {
+        return TakeItem();
+    }
+    const ScriptWord& word = Take("a control: its number, its name in quotes, cell, or item");
     const std::optional<int> number = word.quoted ? std::nullopt : IntegerOf(word.text);
     return number ? StepTarget::Control(*number) : StepTarget::Control(word.text);
 }
@@ -190,6 +201,38 @@ StepTarget ScriptParser::TakeTarget() {
 StepTarget ScriptParser::TakeCellAfterKeyword() {
     if (!TakeKeyword("cell")) {
         Expected("cell");
+    }
+    return TakeCell();
+}
+
+StepTarget ScriptParser::TakeItem() {
+    StepTarget item = StepTarget::Item({Take("the caption of a row").text});
+    while (item.number == 0 && TakeKeyword("in")) {
+        const ScriptWord& word =
+            Take("the caption of a row above it, or the number of a property grid");
+        const std::optional<int> number = word.quoted ? std::nullopt : IntegerOf(word.text);
+        if (number) {
+            item.number = *number;
+        } else {
+            item.path.push_back(word.text);
+        }
+    }
+    return item;
+}
+
+StepTarget ScriptParser::TakeItemAfterKeyword() {
+    if (!TakeKeyword("item")) {
+        Expected("item");
+    }
+    return TakeItem();
+}
+
+StepTarget ScriptParser::TakeEditable() {
+    if (TakeKeyword("item")) {
+        return TakeItem();
+    }
+    if (!TakeKeyword("cell")) {
+        Expected("cell or item");
     }
     return TakeCell();
 }

@@ -31,6 +31,9 @@ private:
     StepTarget TakePlaces();
     StepTarget TakeCell();
     StepTarget TakeCellAfterKeyword();
+    StepTarget TakeItem();
+    StepTarget TakeItemAfterKeyword();
+    StepTarget TakeEditable();
     CellPlace TakePlace(const char* expected);
     std::optional<double> TakeShare();
     void TakeEntries(UserStep& step);

@@ -13,7 +13,7 @@ namespace {
 template <class T>
 using WordTable = std::pair<T, const char*>;
 
-constexpr std::array<WordTable<StepVerb>, 39> kVerbs{{
+constexpr std::array<WordTable<StepVerb>, 42> kVerbs{{
     {StepVerb::Click, "click"},
     {StepVerb::DoubleClick, "double-click"},
     {StepVerb::Focus, "focus"},
@@ -27,6 +27,8 @@ constexpr std::array<WordTable<StepVerb>, 39> kVerbs{{
     {StepVerb::Drag, "drag"},
     {StepVerb::Hover, "hover"},
     {StepVerb::Menu, "menu"},
+    {StepVerb::Expand, "expand"},
+    {StepVerb::Collapse, "collapse"},
     {StepVerb::Key, "key"},
     {StepVerb::Tab, "tab"},
     {StepVerb::Ok, "ok"},
@@ -51,6 +53,7 @@ constexpr std::array<WordTable<StepVerb>, 39> kVerbs{{
     {StepVerb::ExpectHidden, "expect hidden"},
     {StepVerb::ExpectFocus, "expect focus"},
     {StepVerb::ExpectTip, "expect tip"},
+    {StepVerb::ExpectDescription, "expect description"},
     {StepVerb::ExpectCursor, "expect cursor"},
     {StepVerb::ExpectClipboard, "expect clipboard"},
 }};

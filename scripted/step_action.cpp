@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "kvopt/platform/controls.h"
+#include "kvopt/platform/property_grid.h"
 #include "kvopt/platform/property_page.h"
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/platform/virtual_worksheet.h"
@@ -12,6 +13,7 @@
 #include "kvopt/scripted/step_gestures.h"
 #include "kvopt/text/kv_std_string.h"
 #include "scripted/control_names.h"
+#include "scripted/grid_rows.h"
 #include "scripted/script_lexer.h"
 #include "scripted/script_words.h"
 
@@ -41,8 +43,10 @@ public:
 private:
     std::string OnControl();
     std::string OnCell();
+    std::string OnItem();
     std::string TypeIntoCell(bool commit);
     std::string PickInCell();
+    std::string PickInRow();
     std::string Drag();
     std::string DragTo(CPoint thumb, CPoint cell, CPoint pixel);
     std::string Select();
@@ -85,6 +89,9 @@ std::string StepAction::Perform() {
     found_ = FindTarget(scope_, step_);
     if (!found_) {
         return found_.problem;
+    }
+    if (step_.target.kind == StepTarget::Kind::Item) {
+        return OnItem();
     }
     return step_.target.kind == StepTarget::Kind::Cell ? OnCell() : OnControl();
 }
@@ -140,6 +147,42 @@ std::string StepAction::OnCell() {
         default:
             return "the step does not fit a cell";
     }
+}
+
+std::string StepAction::OnItem() {
+    CXTPPropertyGrid& grid = *found_.Grid();
+    CXTPPropertyGridItem& row = *found_.item;
+    switch (step_.verb) {
+        case StepVerb::Focus:
+            return Refused(gestures_.SelectRow(grid, row));
+        case StepVerb::Click:
+            return Refused(gestures_.ToggleRow(grid, row));
+        case StepVerb::Expand:
+        case StepVerb::Collapse:
+            return Refused(gestures_.ExpandRow(grid, row, step_.verb == StepVerb::Expand));
+        case StepVerb::Type:
+        case StepVerb::Edit:
+            return Refused(
+                gestures_.TypeIntoRow(grid, row, WideText(), step_.verb == StepVerb::Type));
+        case StepVerb::Pick:
+            return PickInRow();
+        default:
+            return "the step does not fit a row of a property grid";
+    }
+}
+
+std::string StepAction::PickInRow() {
+    const std::vector<PropertyGridChoice> choices = found_.item->Choices();
+    const std::vector<std::string> entries = ChoiceTexts(*found_.item);
+    const auto entry = std::find(entries.begin(), entries.end(), Text());
+    if (entry == entries.end()) {
+        return NoEntry(Text(), entries);
+    }
+    const auto index = entry - entries.begin();
+    if (!choices[static_cast<std::size_t>(index)].enabled) {
+        return "the entry " + QuoteForScript(Text()) + " is disabled";
+    }
+    return Refused(gestures_.PickInRow(*found_.Grid(), *found_.item, static_cast<int>(index)));
 }
 
 std::string StepAction::TypeIntoCell(bool commit) {

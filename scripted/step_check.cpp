@@ -3,11 +3,13 @@
 #include <vector>
 
 #include "kvopt/platform/controls.h"
+#include "kvopt/platform/property_grid.h"
 #include "kvopt/platform/property_page.h"
 #include "kvopt/platform/virtual_worksheet.h"
 #include "kvopt/scripted/step_target.h"
 #include "kvopt/text/kv_std_string.h"
 #include "scripted/control_names.h"
+#include "scripted/grid_rows.h"
 #include "scripted/script_lexer.h"
 #include "scripted/script_words.h"
 
@@ -75,6 +77,12 @@ std::vector<std::string> EntriesOf(const FoundTarget& found, bool isCell) {
         }
         return entries;
     }
+    if (const CXTPPropertyGrid* grid = found.Grid()) {
+        for (const CXTPPropertyGridItem* row : grid->ShownRows()) {
+            entries.push_back(KvStdString::ToUtf8(row->GetCaption()));
+        }
+        return entries;
+    }
     const VirtualWorksheet* worksheet = found.Worksheet();
     const BaseWorksheetInterface* content = worksheet != nullptr ? worksheet->Content() : nullptr;
     if (content == nullptr) {
@@ -114,10 +122,62 @@ std::string CheckFocus(const CDialog& dialog, const CControl* control) {
                               : "no control has the focus";
 }
 
+std::string CheckItem(const CDialog& dialog, const UserStep& step, const FoundTarget& found) {
+    const CXTPPropertyGrid& grid = *found.Grid();
+    const CXTPPropertyGridItem& row = *found.item;
+    const CXTPPropertyGridItem* selected = grid.GetSelectedItem();
+    switch (step.verb) {
+        case StepVerb::ExpectText:
+            return CheckText(step.values.front(),
+                             KvStdString::ToUtf8(grid.EditedItem() == &row ? grid.EditorText()
+                                                                           : row.GetValue()));
+        case StepVerb::ExpectEntries:
+            return CheckTexts(step.values, ChoiceTexts(row));
+        case StepVerb::ExpectEnabled:
+            return Differs(!row.GetReadOnly(), "read-only");
+        case StepVerb::ExpectDisabled:
+            return Differs(row.GetReadOnly(), "not read-only");
+        case StepVerb::ExpectVisible:
+            return Differs(row.IsShown(), "hidden");
+        case StepVerb::ExpectHidden:
+            return Differs(!row.IsShown(), "visible");
+        case StepVerb::ExpectFocus:
+            if (selected != &row) {
+                return selected != nullptr ? "row " + PathOf(*selected) + " is selected"
+                                           : "no row is selected";
+            }
+            return CheckFocus(dialog, &grid);
+        default:
+            return "the step does not fit a row of a property grid";
+    }
+}
+
+/// What the pane below a property grid says of the selected row.
+std::string CheckDescription(const StepScope& scope, const UserStep& step) {
+    const CDialog* active = scope.ActiveDialog();
+    if (active == nullptr) {
+        return "no page is shown";
+    }
+    for (const auto& control : active->Controls()) {
+        if (const auto* grid = dynamic_cast<const CXTPPropertyGrid*>(control.get())) {
+            const CXTPPropertyGridItem* row = grid->GetSelectedItem();
+            return !grid->IsHelpVisible()
+                       ? "no descriptions are shown"
+                       : CheckText(
+                             step.values.front(),
+                             row != nullptr ? KvStdString::ToUtf8(row->GetDescription()) : "");
+        }
+    }
+    return scope.Describe() + " has no property grid";
+}
+
 std::string CheckControl(const StepScope& scope, const UserStep& step) {
     const FoundTarget found = FindTarget(scope, step);
     if (!found) {
         return found.problem;
+    }
+    if (found.item != nullptr) {
+        return CheckItem(*scope.ActiveDialog(), step, found);
     }
     const CControl& control = *found.control;
     const bool isCell = step.target.kind == StepTarget::Kind::Cell;
@@ -158,6 +218,8 @@ std::string CheckStep(const Desktop& desktop, const StepScope& scope, const User
             return CheckPage(scope, step);
         case StepVerb::ExpectCursor:
             return Differs(desktop.GetCursor() == step.cursor, CursorText(desktop.GetCursor()));
+        case StepVerb::ExpectDescription:
+            return CheckDescription(scope, step);
         case StepVerb::ExpectClipboard:
             return CheckText(step.values.front(), KvStdString::ToUtf8(desktop.ClipboardText()));
         default:

@@ -58,6 +58,29 @@ private:
 
 StepGestures::~StepGestures() = default;
 
+bool StepGestures::SelectRow(CXTPPropertyGrid& /*grid*/, CXTPPropertyGridItem& /*row*/) {
+    return false;
+}
+
+bool StepGestures::ToggleRow(CXTPPropertyGrid& /*grid*/, CXTPPropertyGridItem& /*row*/) {
+    return false;
+}
+
+bool StepGestures::ExpandRow(CXTPPropertyGrid& /*grid*/, CXTPPropertyGridItem& /*row*/,
+                             bool /*expand*/) {
+    return false;
+}
+
+bool StepGestures::PickInRow(CXTPPropertyGrid& /*grid*/, CXTPPropertyGridItem& /*row*/,
+                             int /*choice*/) {
+    return false;
+}
+
+bool StepGestures::TypeIntoRow(CXTPPropertyGrid& /*grid*/, CXTPPropertyGridItem& /*row*/,
+                               const std::wstring& /*text*/, bool /*commit*/) {
+    return false;
+}
+
 StepPlayer::Run::Run(StepPlayer& player, StepScope scope) : player_(player) {
     player_.runs_.push_back(scope);
 }

@@ -5,11 +5,13 @@
 
 #include "kvopt/platform/controls.h"
 #include "kvopt/platform/dialog.h"
+#include "kvopt/platform/property_grid.h"
 #include "kvopt/platform/property_page.h"
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/platform/virtual_worksheet.h"
 #include "kvopt/text/kv_std_string.h"
 #include "scripted/control_names.h"
+#include "scripted/grid_rows.h"
 #include "scripted/script_lexer.h"
 
 namespace kvopt {
@@ -52,8 +54,8 @@ VerbFit FitOf(StepVerb verb) {
                 {ControlKind::Check, ControlKind::Radio}, "a check box or a radio button", false};
         case StepVerb::ExpectEntries:
             return {{ControlKind::ComboList, ControlKind::ComboEdit, ControlKind::ListSingle,
-                     ControlKind::ListMulti, ControlKind::Worksheet},
-                    "a list, a drop-down list or a worksheet",
+                     ControlKind::ListMulti, ControlKind::Worksheet, ControlKind::PropertyGrid},
+                    "a list, a drop-down list, a worksheet or a property grid",
                     false};
         case StepVerb::ExpectMarked:
             return {{ControlKind::ListSingle, ControlKind::ListMulti}, "a list", false};
@@ -138,27 +140,40 @@ FoundTarget FindByNumber(const StepScope& scope, const CDialog& dialog, int numb
                : Problem(scope.Describe() + " has no control " + std::to_string(number));
 }
 
-FoundTarget FindWorksheet(const StepScope& scope, const CDialog& dialog, const StepTarget& target,
-                          bool userActs) {
-    const VerbFit fit{{ControlKind::Worksheet}, "a worksheet", userActs};
+/// The control that holds what a step is aimed at: the one that the target names, else the only one
+/// of its kind, which a message calls `what`.
+FoundTarget FindHolder(const StepScope& scope, const CDialog& dialog, const StepTarget& target,
+                       ControlKind kind, const std::string& what, bool userActs) {
+    const std::string wants = "a " + what;
+    const VerbFit fit{{kind}, wants.c_str(), userActs};
     if (!target.name.empty()) {
         return FindByName(scope, dialog, target.name, fit);
     }
     if (target.number != 0) {
         return FindByNumber(scope, dialog, target.number, fit);
     }
-    std::vector<CControl*> worksheets;
+    std::vector<CControl*> holders;
     for (const auto& control : dialog.Controls()) {
-        if (control->Kind() == ControlKind::Worksheet) {
-            worksheets.push_back(control.get());
+        if (control->Kind() == kind) {
+            holders.push_back(control.get());
         }
     }
-    if (worksheets.size() != 1) {
-        return Problem(scope.Describe() + (worksheets.empty()
-                                               ? " has no worksheet"
-                                               : " has several worksheets: say in which"));
+    if (holders.size() != 1) {
+        return Problem(scope.Describe() + (holders.empty()
+                                               ? " has no " + what
+                                               : " has several " + what + "s: say in which"));
     }
-    return Checked(*worksheets.front(), fit);
+    return Checked(*holders.front(), fit);
+}
+
+FoundTarget FindItem(const StepScope& scope, const CDialog& dialog, const StepTarget& target,
+                     StepVerb verb) {
+    FoundTarget found = FindHolder(scope, dialog, target, ControlKind::PropertyGrid,
+                                   "property grid", !IsExpectation(verb));
+    if (found) {
+        found.item = FindRow(*found.Grid(), target.path, verb, found.problem);
+    }
+    return found;
 }
 
 /// The position of a row or column, 0 and a problem when there is none. `textAt` gives the text by
@@ -191,7 +206,8 @@ int PositionOf(const CellPlace& place, int count, const char* what, TextAt textA
 
 FoundTarget FindCell(const StepScope& scope, const CDialog& dialog, const StepTarget& target,
                      bool userActs) {
-    FoundTarget found = FindWorksheet(scope, dialog, target, userActs);
+    FoundTarget found =
+        FindHolder(scope, dialog, target, ControlKind::Worksheet, "worksheet", userActs);
     if (!found) {
         return found;
     }
@@ -224,6 +240,8 @@ FoundTarget Find(const StepScope& scope, const StepTarget& target, StepVerb verb
             return FindByName(scope, *dialog, target.name, fit);
         case StepTarget::Kind::Cell:
             return FindCell(scope, *dialog, target, fit.userActs);
+        case StepTarget::Kind::Item:
+            return FindItem(scope, *dialog, target, verb);
         case StepTarget::Kind::None:
         case StepTarget::Kind::Frame:
             break;
@@ -253,6 +271,10 @@ std::string StepScope::Describe() const {
 
 VirtualWorksheet* FoundTarget::Worksheet() const {
     return dynamic_cast<VirtualWorksheet*>(control);
+}
+
+CXTPPropertyGrid* FoundTarget::Grid() const {
+    return dynamic_cast<CXTPPropertyGrid*>(control);
 }
 
 FoundTarget FindTarget(const StepScope& scope, const UserStep& step) {

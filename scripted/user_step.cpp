@@ -24,6 +24,16 @@ std::string EntriesText(const std::vector<std::string>& entries) {
     return entries.empty() ? " none" : text;
 }
 
+std::string ItemText(const StepTarget& target) {
+    std::string text = "item";
+    const char* before = " ";
+    for (const std::string& caption : target.path) {
+        text += before + QuoteForScript(caption);
+        before = " in ";
+    }
+    return target.number != 0 ? text + " in " + std::to_string(target.number) : text;
+}
+
 std::string DragText(const UserStep& step) {
     std::string text = " to";
     if (step.to.kind == StepTarget::Kind::Cell) {
@@ -78,6 +88,13 @@ StepTarget StepTarget::Cell(CellPlace row, CellPlace column) {
     return target;
 }
 
+StepTarget StepTarget::Item(std::vector<std::string> path) {
+    StepTarget target;
+    target.kind = Kind::Item;
+    target.path = std::move(path);
+    return target;
+}
+
 StepTarget StepTarget::Frame(FrameButton button) {
     StepTarget target;
     target.kind = Kind::Frame;
@@ -100,6 +117,8 @@ std::string StepTarget::Text() const {
             }
             return number != 0 ? text + " in " + std::to_string(number) : text;
         }
+        case Kind::Item:
+            return ItemText(*this);
         case Kind::Frame:
             return FrameButtonText(button);
     }

@@ -136,8 +136,9 @@ INSTANTIATE_TEST_SUITE_P(
         Misfit{"hover cell 1 2 in 104", "control 104 \"Factor\" is not a worksheet"},
         Misfit{"expect checked 108",
                "control 108 \"Plot options...\" is not a check box or a radio button"},
-        Misfit{"expect entries 102 x",
-               "control 102 \"Low:\" is not a list, a drop-down list or a worksheet"},
+        Misfit{
+            "expect entries 102 x",
+            "control 102 \"Low:\" is not a list, a drop-down list, a worksheet or a property grid"},
         Misfit{"expect marked 104 x", "control 104 \"Factor\" is not a list"}));
 
 TEST_F(StepTargetTest, FindsACellByTextsAndByPositions) {

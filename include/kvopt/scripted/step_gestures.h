@@ -18,6 +18,8 @@ class CControl;
 class CListBox;
 class CPropertySheet;
 class CSpinButtonCtrl;
+class CXTPPropertyGrid;
+class CXTPPropertyGridItem;
 class VirtualWorksheet;
 
 /// The user's hands: how a front end performs what a StepPlayer asks. The player has found the
@@ -63,6 +65,18 @@ public:
     virtual bool ReleaseMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) = 0;
     /// A right click. The menu that comes asks StepPlayer::ChooseFromMenu.
     virtual bool ContextMenu(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) = 0;
+
+    // A row of a property grid that is shown. Hands without property grids refuse.
+    /// A click on the row's caption.
+    virtual bool SelectRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row);
+    /// Turns a bool row over.
+    virtual bool ToggleRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row);
+    /// Opens or closes what stands below the row; it is the other way now.
+    virtual bool ExpandRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, bool expand);
+    virtual bool PickInRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, int choice);
+    /// Opens the row's editor and types; `commit` ends with Return, else the editor stays open.
+    virtual bool TypeIntoRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row,
+                             const std::wstring& text, bool commit);
 
     virtual bool Wait(unsigned milliseconds) = 0;
     /// Keeps a picture of what is in front; a front end without pictures does nothing.

@@ -11,6 +11,8 @@ namespace kvopt {
 class CControl;
 class CDialog;
 class CPropertySheet;
+class CXTPPropertyGrid;
+class CXTPPropertyGridItem;
 class VirtualWorksheet;
 
 /// What stands in front of the user: a sheet with its active page, or a free-standing dialog. Owns
@@ -27,15 +29,19 @@ struct KVOPT_EXPORT StepScope {
     std::string Describe() const;
 };
 
-/// A control, or a cell of a worksheet, that a step is aimed at; or why it cannot be had.
+/// A control, a cell of a worksheet or a row of a property grid that a step is aimed at; or why it
+/// cannot be had.
 struct KVOPT_EXPORT FoundTarget {
     CControl* control = nullptr;
-    CPoint cell;          ///< (column, row), when the target is a cell
-    std::string problem;  ///< empty when the target was found
+    CPoint cell;                           ///< (column, row), when the target is a cell
+    CXTPPropertyGridItem* item = nullptr;  ///< when the target is a row of a property grid
+    std::string problem;                   ///< empty when the target was found
 
     explicit operator bool() const { return problem.empty(); }
     /// Null when the control is no worksheet.
     VirtualWorksheet* Worksheet() const;
+    /// Null when the control is no property grid.
+    CXTPPropertyGrid* Grid() const;
 };
 
 /// Finds what a step is aimed at on the active page and checks that the verb fits its kind, and,

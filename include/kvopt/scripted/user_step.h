@@ -26,6 +26,8 @@ enum class StepVerb {
     Drag,
     Hover,
     Menu,
+    Expand,
+    Collapse,
     Key,
     // The user acts on the frame.
     Tab,
@@ -53,6 +55,7 @@ enum class StepVerb {
     ExpectHidden,
     ExpectFocus,
     ExpectTip,
+    ExpectDescription,
     ExpectCursor,
     ExpectClipboard,
 };
@@ -80,6 +83,7 @@ struct KVOPT_EXPORT StepTarget {
         Number,  ///< a control, by its number
         Name,    ///< a control, by its accessible name or its label without mnemonic
         Cell,    ///< a cell of the worksheet `number` or `name`; of the only one without either
+        Item,    ///< a row of the property grid `number`; of the only one without it
         Frame,   ///< a button of the frame
     };
     Kind kind = Kind::None;
@@ -87,11 +91,15 @@ struct KVOPT_EXPORT StepTarget {
     std::string name;
     CellPlace row;
     CellPlace column;
+    /// Captions: of the row, then of rows above it from the nearest on, any of which may be left
+    /// out.
+    std::vector<std::string> path;
     FrameButton button = FrameButton::Ok;
 
     static StepTarget Control(int number);
     static StepTarget Control(std::string name);
     static StepTarget Cell(CellPlace row, CellPlace column);
+    static StepTarget Item(std::vector<std::string> path);
     static StepTarget Frame(FrameButton button);
     /// As it stands in a script.
     std::string Text() const;
