@@ -41,6 +41,12 @@ void AddOptions(std::ostream& out, const ContourPageData& page) {
         << "resolution " << options.resolution << ", mixture " << options.mixtureResolution
         << ", color " << options.useColor << ", equal " << options.scaleEqual << ", labels "
         << options.useContourLabels << '\n';
+    if (options.isProbabilityPlot) {
+        out << "simulations " << options.numSimulations << ", limit " << options.dpmoTarget
+            << ", model error " << options.includeModelError << ", analytical "
+            << options.analyticalProbability << ", interval " << options.intervalType << ' '
+            << options.confLev << ' ' << options.tolProp << '\n';
+    }
     for (const std::string& response : page.GetSelectedResponses()) {
         out << "response " << response << '\n';
     }

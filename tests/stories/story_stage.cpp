@@ -31,7 +31,11 @@ std::string StoryFile(const std::string& name) {
 }
 
 std::vector<Story> AllStories() {
-    return ContourStories();
+    std::vector<Story> all = ContourStories();
+    for (const Story& story : DesignSpaceStories()) {
+        all.push_back(story);
+    }
+    return all;
 }
 
 StoryStage::StoryStage(const Story& story)
