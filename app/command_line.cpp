@@ -25,7 +25,7 @@ std::string RoadNames() {
 
 std::string CommandLine::Usage() {
     return "usage: kvopt-demo [STUDY] [--scale FACTOR] [--dark]\n"
-           "       kvopt-demo run ROAD STUDY [--script FILE] [--out DIR]\n"
+           "       kvopt-demo run ROAD STUDY [--plot FILE] [--script FILE] [--out DIR]\n"
            "                  [--front scripted|qt] [--window] [--scale FACTOR] [--dark]\n"
            "roads: " +
            RoadNames() + "\n";
@@ -50,6 +50,8 @@ CommandLine CommandLine::Parse(const std::vector<std::string>& words) {
             result.script = value();
         } else if (word == "--out") {
             result.out = value();
+        } else if (word == "--plot") {
+            result.plot = value();
         } else if (word == "--window") {
             result.onDisplay = true;
         } else if (word == "--dark") {
@@ -77,8 +79,12 @@ CommandLine CommandLine::Parse(const std::vector<std::string>& words) {
         if (names.size() != 3) {
             Refuse("run takes a road and a study");
         }
-        if (FindRoad(names[1]) == nullptr) {
+        const Road* const road = FindRoad(names[1]);
+        if (road == nullptr) {
             Refuse("unknown road " + names[1] + ", expected one of " + RoadNames());
+        }
+        if ((road->kind == Road::Kind::Change) == result.plot.empty()) {
+            Refuse(names[1] + (result.plot.empty() ? " needs --plot FILE" : " takes no --plot"));
         }
         result.task = Task::Run;
         result.road = names[1];

@@ -11,6 +11,7 @@ struct CommandLine {
     Task task = Task::Window;
     std::string road;         ///< of Run, the name of one
     std::string study;        ///< file of the study; of Window may be empty
+    std::string plot;         ///< file of the saved plot that a road changes
     std::string script;       ///< empty for a person in front of real windows
     std::string out = "out";  ///< folder for what a run leaves
     bool onDisplay = false;   ///< windows on the display, not offscreen

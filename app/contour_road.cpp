@@ -9,10 +9,24 @@
 
 namespace {
 
-std::unique_ptr<kvopt::ContourPlotData> NewPlot(kvopt::ReferenceStudy& study) {
+std::unique_ptr<kvopt::ContourPlotData> NewPlot(kvopt::ReferenceStudy& study, bool isDesignSpace) {
     const int factors = study.GetVariables()->GetCount(kvopt::CEVar::AllFactors);
-    return std::make_unique<kvopt::ContourPlotData>(&study, factors, study.GetIniFileName(), false,
-                                                    false, false, false);
+    return std::make_unique<kvopt::ContourPlotData>(&study, factors, study.GetIniFileName(),
+                                                    isDesignSpace, false, false, false);
+}
+
+RoadResult Leave(bool finished, std::unique_ptr<kvopt::ContourPlotData> plot) {
+    RoadResult result;
+    result.finished = finished;
+    if (finished) {
+        result.plot = std::move(plot);
+    }
+    return result;
+}
+
+RoadResult Fill(const RoadStart& start, std::unique_ptr<kvopt::ContourPlotData> plot) {
+    const bool finished = kvopt::ShowContourWizard(start.parent, *plot, &start.study, true, false);
+    return Leave(finished, std::move(plot));
 }
 
 }  // namespace
@@ -23,13 +37,24 @@ StoreFiles StoreFiles::InFolder(const std::string& folder) {
 }
 
 RoadResult MakeContourPlot(const RoadStart& start) {
-    RoadResult result;
-    auto plot = NewPlot(start.study);
-    result.finished = kvopt::ShowContourWizard(start.parent, *plot, &start.study, true, false);
-    if (result.finished) {
-        result.plot = std::move(plot);
-    }
-    return result;
+    return Fill(start, NewPlot(start.study, false));
+}
+
+RoadResult MakeContour4DPlot(const RoadStart& start) {
+    auto plot = NewPlot(start.study, false);
+    plot->GetContourTypeData()->SetPlotType(kvopt::ContourPageData::contour_4D);
+    return Fill(start, std::move(plot));
+}
+
+RoadResult MakeDesignSpacePlot(const RoadStart& start) {
+    return Fill(start, NewPlot(start.study, true));
+}
+
+RoadResult ChangeSavedPlot(const RoadStart& start) {
+    auto plot = LoadPlot(start.study, start.savedPlot);
+    const bool finished = kvopt::ShowContourSheet(start.parent, *plot, &start.study,
+                                                  plot->GetPlotConstants(), nullptr, true);
+    return Leave(finished, std::move(plot));
 }
 
 void SavePlot(const kvopt::ContourPlotData& plot, const std::string& fileName) {
@@ -41,7 +66,7 @@ void SavePlot(const kvopt::ContourPlotData& plot, const std::string& fileName) {
 std::unique_ptr<kvopt::ContourPlotData> LoadPlot(kvopt::ReferenceStudy& study,
                                                  const std::string& fileName) {
     const kvopt::ConfigurationStore store = kvopt::ConfigurationStore::Load(fileName);
-    auto plot = NewPlot(study);
+    auto plot = NewPlot(study, false);
     if (!plot->ReadSection(store.Root().get())) {
         throw kvopt::FileError(fileName, "holds no contour plot that fits this study");
     }

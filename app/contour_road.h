@@ -16,8 +16,15 @@ struct StoreFiles {
     static StoreFiles InFolder(const std::string& folder);
 };
 
-/// Makes a plot's arguments on the study and lets the user fill them.
+// A plot's arguments on the study, filled by the user in the wizard. Which plot it is at the end
+// the user decides; only a design space stays one.
+
 RoadResult MakeContourPlot(const RoadStart& start);
+RoadResult MakeContour4DPlot(const RoadStart& start);
+RoadResult MakeDesignSpacePlot(const RoadStart& start);
+
+/// The arguments of the saved plot, changed by the user in the sheet. Throws as LoadPlot does.
+RoadResult ChangeSavedPlot(const RoadStart& start);
 
 /// Writes the plot to a file of its own. Throws kvopt::FileError.
 void SavePlot(const kvopt::ContourPlotData& plot, const std::string& fileName);

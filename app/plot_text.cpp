@@ -12,8 +12,14 @@ std::string Number(double value) {
     return KvString::FormatG(value);
 }
 
-std::string YesNo(bool value) {
-    return value ? "yes" : "no";
+/// Settings on an outer axis have no range, whatever the axis says of its kind.
+std::string Used(const kvopt::AxisInfo& axis) {
+    const auto low = static_cast<double>(axis.GetMin());
+    const auto high = static_cast<double>(axis.GetMax());
+    const bool hasRange = low != kvopt::kNotSet || high != kvopt::kNotSet;
+    return axis.GetName() + (axis.IsQualitative() || !hasRange
+                                 ? ": " + axis.GetSettings()
+                                 : ", " + Number(low) + " to " + Number(high));
 }
 
 PlotGroup Axes(const kvopt::ContourPlotData& plot) {
@@ -22,14 +28,7 @@ PlotGroup Axes(const kvopt::ContourPlotData& plot) {
     const auto& axes = plot.GetSelectedAxisInfo(count);
     for (int position = 1; position <= count; ++position) {
         const kvopt::AxisInfo& axis = *axes[static_cast<std::size_t>(position)];
-        std::string value = "not used";
-        if (axis.IsUsed()) {
-            value =
-                axis.GetName() + (axis.IsQualitative()
-                                      ? ": " + axis.GetSettings()
-                                      : ", " + Number(static_cast<double>(axis.GetMin())) + " to " +
-                                            Number(static_cast<double>(axis.GetMax())));
-        }
+        const std::string value = axis.IsUsed() ? Used(axis) : "not used";
         group.lines.push_back({"Axis " + std::to_string(position), value});
     }
     return group;
@@ -51,7 +50,24 @@ PlotGroup Constants(const kvopt::ContourPlotData& plot) {
     return group;
 }
 
+/// What only a design space plot has; empty for another.
+PlotGroup Simulation(const kvopt::ContourPageData& data) {
+    PlotGroup group{"Simulation", {}};
+    if (data.ISDSProbability()) {
+        const auto& options = data.GetOptions();
+        group.lines = {{"Risk limit", std::to_string(options.dpmoTarget) + " DPMO"},
+                       {"Simulations per point", std::to_string(options.numSimulations)},
+                       {"Interval type", kvopt::CIntervalType::GetString(options.intervalType)},
+                       {"Confidence level", kvopt::CConfLev::GetString(options.confLev)}};
+    }
+    return group;
+}
+
 }  // namespace
+
+std::string YesNo(bool value) {
+    return value ? "yes" : "no";
+}
 
 std::vector<PlotGroup> DescribePlot(const kvopt::ContourPlotData& plot) {
     const kvopt::ContourPageData& data = *plot.GetContourTypeData();
@@ -70,6 +86,7 @@ std::vector<PlotGroup> DescribePlot(const kvopt::ContourPlotData& plot) {
         responses,
         Axes(plot),
         Constants(plot),
+        Simulation(data),
         {"Display",
          {{"Color", YesNo(options.useColor)},
           {"Contour level labels", YesNo(options.useContourLabels)},

@@ -19,5 +19,7 @@ struct PlotGroup {
     std::vector<PlotLine> lines;
 };
 
+std::string YesNo(bool value);
+
 /// The arguments of a plot as a person reads them: kind, responses, axes, constants, display.
 std::vector<PlotGroup> DescribePlot(const kvopt::ContourPlotData& plot);

@@ -10,6 +10,9 @@
 const std::vector<Road>& AllRoads() {
     static const std::vector<Road> roads{
         {Road::Kind::Plot, "contour", "&Contour plot...", MakeContourPlot},
+        {Road::Kind::Plot, "contour-4d", "&4D contour plot...", MakeContour4DPlot},
+        {Road::Kind::Plot, "design-space", "&Design space plot...", MakeDesignSpacePlot},
+        {Road::Kind::Change, "contour-sheet", "C&hange...", ChangeSavedPlot},
         {Road::Kind::Page, "page-select-response", "Select &response...", ShowSelectResponsePage},
         {Road::Kind::Page, "page-select-variable", "Select &variable...", ShowSelectVariablePage},
         {Road::Kind::Page, "page-confidence-level", "&Confidence level...",

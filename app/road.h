@@ -17,6 +17,7 @@ class ReferenceStudy;
 struct RoadStart {
     kvopt::ReferenceStudy& study;
     kvopt::CWnd* parent = nullptr;  ///< null for windows that stand alone
+    std::string savedPlot = {};     ///< file of the plot that a road of Kind::Change begins with
 };
 
 /// What a road leaves.
@@ -29,8 +30,9 @@ struct RoadResult {
 /// Something that the demo lets a user do with a study.
 struct Road {
     enum class Kind {
-        Plot,  ///< a wizard that fills the arguments of a new plot
-        Page,  ///< a page that only hosts build, in a sheet of its own
+        Plot,    ///< a wizard that fills the arguments of a new plot
+        Change,  ///< a sheet that changes the arguments of a saved plot, whose file stays as it is
+        Page,    ///< a page that only hosts build, in a sheet of its own
     };
     Kind kind;
     const char* name;   ///< on the command line, and of the button or menu entry

@@ -70,14 +70,25 @@ void PrintGroups(const std::vector<PlotGroup>& groups, std::ostream& out) {
     }
 }
 
+const char* KindText(Road::Kind kind) {
+    switch (kind) {
+        case Road::Kind::Plot:
+            return "Wizard  ";
+        case Road::Kind::Change:
+            return "Sheet   ";
+        case Road::Kind::Page:
+            break;
+    }
+    return "Page    ";
+}
+
 void PrintSummary(const kvopt::ReferenceStudy& study, const Road& road, const RoadResult& result,
                   std::ostream& out) {
     const kvopt::StudyData& data = study.Data();
     out << "Study   " << data.name << "\n        " << Counted(data.factors.size(), "factor") << ", "
         << Counted(data.responses.size(), "response") << ", "
         << Counted(data.runs.rows.size(), "run") << "\n";
-    out << (road.kind == Road::Kind::Plot ? "Wizard  " : "Page    ")
-        << (result.finished ? "finished" : "not finished") << "\n";
+    out << KindText(road.kind) << (result.finished ? "finished" : "not finished") << "\n";
     PrintGroups(result.plot != nullptr ? DescribePlot(*result.plot) : result.entered, out);
 }
 
@@ -105,7 +116,7 @@ int RunTask(const CommandLine& command, std::ostream& out, std::ostream& faults)
     kvopt::Investigation::SetActiveInvestigation(study.get());
 
     const auto desktop = RoadDesktop::Make(command);
-    const RoadResult result = road.go({*study});
+    const RoadResult result = road.go({*study, nullptr, command.plot});
     const std::vector<std::string> unlike = desktop->Finish();
     if (result.plot != nullptr) {
         SavePlot(*result.plot, files.savedPlot);

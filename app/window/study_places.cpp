@@ -39,10 +39,10 @@ QStringList StudyPlaces::SavedPlots() const {
     return plotFolder_.isEmpty() ? QStringList() : JsonFilesIn(plotFolder_);
 }
 
-QString StudyPlaces::NewPlotFile() const {
+QString StudyPlaces::NewPlotFile(const QString& kind) const {
     QDir().mkpath(plotFolder_);
     for (int number = 1;; ++number) {
-        const QString file = plotFolder_ + "/Contour plot " + QString::number(number) + ".json";
+        const QString file = plotFolder_ + "/" + kind + " " + QString::number(number) + ".json";
         if (!QFileInfo::exists(file)) {
             return file;
         }

@@ -17,8 +17,8 @@ public:
 
     /// The saved plots, in the order in which they were numbered.
     QStringList SavedPlots() const;
-    /// A name that no saved plot has; makes the folder.
-    QString NewPlotFile() const;
+    /// A name that no saved plot has, `kind` with a number; makes the folder.
+    QString NewPlotFile(const QString& kind) const;
 
     /// The study files of a folder, by name.
     static QStringList StudiesIn(const QString& folder);

@@ -147,7 +147,13 @@ QWidget* StudyWindow::BuildRoads() {
         }
         auto* button = new QPushButton(road.label, part);
         button->setObjectName(road.name);
-        button->setToolTip("Opens the wizard and saves the arguments that it ends with");
+        if (road.kind == Road::Kind::Change) {
+            change_ = button;
+            button->setToolTip(
+                "Changes the arguments of the plot that is shown, and saves them as another plot");
+        } else {
+            button->setToolTip("Opens the wizard and saves the arguments that it ends with");
+        }
         connect(button, &QPushButton::clicked, this, go);
         row->addWidget(button);
     }
@@ -157,6 +163,7 @@ QWidget* StudyWindow::BuildRoads() {
     button->setMenu(pages);
     row->addWidget(button);
     part->setEnabled(false);
+    SetShownPlot({});
     return part;
 }
 
@@ -206,6 +213,7 @@ void StudyWindow::CloseStudy() {
     study_.reset();
     places_ = StudyPlaces();
     message_->Clear();
+    SetShownPlot({});
     plotView_->SetFiles({}, {});
     roads_->setEnabled(false);
     ShowPlaces();
@@ -228,11 +236,18 @@ void StudyWindow::ShowStudy(const QString& file) {
     }
 }
 
+void StudyWindow::SetShownPlot(const QString& file) {
+    shownPlot_ = file;
+    change_->setEnabled(!file.isEmpty());
+}
+
 void StudyWindow::ShowSavedPlot(const QString& file) {
     message_->SetError({});
     plotView_->ClearArguments();
+    SetShownPlot({});
     try {
         plotView_->ShowArguments(DescribePlot(*LoadPlot(*study_, FileName(file))));
+        SetShownPlot(file);
     } catch (const std::exception& fault) {
         message_->SetError(QString::fromStdString(fault.what()));
     }
@@ -241,11 +256,12 @@ void StudyWindow::ShowSavedPlot(const QString& file) {
 void StudyWindow::Go(const Road& road) {
     message_->SetError({});
     try {
-        const RoadResult result = road.go({*study_, &asParent_});
+        const RoadResult result = road.go({*study_, &asParent_, FileName(shownPlot_)});
         if (!result.finished) {
             return;
         }
         if (result.plot == nullptr) {
+            SetShownPlot({});
             plotView_->SetFiles(places_.SavedPlots(), {});
             plotView_->ShowArguments(result.entered);
             return;
@@ -255,6 +271,7 @@ void StudyWindow::Go(const Road& road) {
             plotView_->SetFiles(places_.SavedPlots(), file);
         }
         plotView_->ShowArguments(DescribePlot(*result.plot));
+        SetShownPlot(file);
     } catch (const kvopt::CancelException&) {
         // Abandoned by the analyst: nothing to tell.
     } catch (const std::exception& fault) {
@@ -263,7 +280,8 @@ void StudyWindow::Go(const Road& road) {
 }
 
 QString StudyWindow::Save(const kvopt::ContourPlotData& plot) {
-    QString file = places_.NewPlotFile();
+    QString file = places_.NewPlotFile(
+        plot.GetContourTypeData()->ISDSProbability() ? "Design space plot" : "Contour plot");
     while (!file.isEmpty()) {
         try {
             SavePlot(plot, FileName(file));

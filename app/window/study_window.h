@@ -11,6 +11,7 @@
 class MessageBanner;
 class PlotView;
 class QListWidget;
+class QPushButton;
 class StudyView;
 struct Road;
 
@@ -47,6 +48,8 @@ private:
     void ShowSavedPlot(const QString& file);
     /// Lets the user go a road and shows what it leaves; a plot is saved.
     void Go(const Road& road);
+    /// The saved plot whose arguments are shown; empty for none.
+    void SetShownPlot(const QString& file);
     /// Empty when the plot could not be saved and the user gave it up.
     QString Save(const kvopt::ContourPlotData& plot);
     void ShowPlaces();
@@ -61,4 +64,6 @@ private:
     StudyView* studyView_ = nullptr;
     PlotView* plotView_ = nullptr;
     QWidget* roads_ = nullptr;
+    QPushButton* change_ = nullptr;
+    QString shownPlot_;
 };

@@ -26,7 +26,11 @@ std::string Refusal(const std::vector<std::string>& words) {
 
 TEST(CommandLine, TakesEveryRoadByItsName) {
     for (const Road& road : AllRoads()) {
-        const CommandLine command = CommandLine::Parse({"run", road.name, "study.json"});
+        std::vector<std::string> words{"run", road.name, "study.json"};
+        if (road.kind == Road::Kind::Change) {
+            words.insert(words.end(), {"--plot", "plot.json"});
+        }
+        const CommandLine command = CommandLine::Parse(words);
         EXPECT_EQ(command.task, CommandLine::Task::Run);
         EXPECT_EQ(command.road, road.name);
         EXPECT_EQ(command.study, "study.json");
@@ -49,6 +53,17 @@ TEST(CommandLine, SaysWhichRoadsThereAreWhenOneIsUnknown) {
     EXPECT_THAT(Refusal({"run", "countour", "study.json"}),
                 HasSubstr("unknown road countour, expected one of contour, "));
     EXPECT_THAT(Refusal({"run", "contour"}), HasSubstr("run takes a road and a study"));
+}
+
+TEST(CommandLine, TakesASavedPlotForTheRoadThatChangesOne) {
+    EXPECT_EQ(CommandLine::Parse({"run", "contour-sheet", "s", "--plot", "plot.json"}).plot,
+              "plot.json");
+    EXPECT_THAT(Refusal({"run", "contour-sheet", "s"}),
+                HasSubstr("contour-sheet needs --plot FILE"));
+    EXPECT_THAT(Refusal({"run", "contour", "s", "--plot", "plot.json"}),
+                HasSubstr("contour takes no --plot"));
+    EXPECT_THAT(Refusal({"run", "contour-sheet", "s", "--plot"}),
+                HasSubstr("--plot needs a value"));
 }
 
 TEST(CommandLine, PlaysAScriptWithoutWindowsUnlessTheyAreNamed) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <kvopt/stores.h>
 #include <kvopt/study.h>
+#include <kvopt/text.h>
 
 #include <QDir>
 #include <QFile>
@@ -28,11 +29,16 @@ protected:
         script.close();
         return Play(road, script.fileName().toStdString());
     }
+    /// The same with the script of this name that comes along.
+    int RunExample(const std::string& road) {
+        return Play(road, std::string(KVOPT_SOURCE_DIR "/examples/scripts/") + road + ".script");
+    }
     int Play(const std::string& road, const std::string& script) {
         CommandLine command;
         command.task = CommandLine::Task::Run;
         command.road = road;
-        command.study = KVOPT_SOURCE_DIR "/examples/studies/chemical-reaction-ccd-2-blocks.json";
+        command.study = KVOPT_SOURCE_DIR "/examples/studies/" + study + ".json";
+        command.plot = plot;
         command.script = script;
         command.out = Out().toStdString();
         std::ostringstream out;
@@ -43,11 +49,22 @@ protected:
         return code;
     }
     QString Out() const { return folder_.filePath("out"); }
-    std::string Left(const QString& name) const {
-        QFile file(Out() + "/" + name);
+    std::string Left(const QString& name) const { return Bytes(Out() + "/" + name); }
+
+    /// Puts what the last run saved aside, as the plot of the next; gives its content.
+    std::string KeepPlot() {
+        const QString kept = folder_.filePath("kept.json");
+        EXPECT_TRUE(QFile::rename(Out() + "/saved-plot.json", kept));
+        plot = kept.toStdString();
+        return Bytes(kept);
+    }
+    static std::string Bytes(const QString& name) {
+        QFile file(name);
         return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "none";
     }
 
+    std::string study = "chemical-reaction-ccd-2-blocks";
+    std::string plot;
     std::string summary;
     std::string told;
 
@@ -56,7 +73,7 @@ private:
 };
 
 TEST_F(RunTaskTest, LeavesTranscriptAndSavedPlotOfTheExampleScript) {
-    EXPECT_EQ(Play("contour", KVOPT_SOURCE_DIR "/examples/scripts/contour.script"), 0) << told;
+    EXPECT_EQ(RunExample("contour"), 0) << told;
     EXPECT_THAT(summary, HasSubstr("Wizard  finished\n"));
     EXPECT_THAT(summary, HasSubstr("Axis 1: Time, 82 to 88\n"));
     EXPECT_THAT(Left("transcript.txt"), HasSubstr("end 12325"));
@@ -74,6 +91,51 @@ TEST_F(RunTaskTest, SavesNoPlotOfACancelledWizard) {
 TEST_F(RunTaskTest, FailsWhenTheScriptWasNotPlayedAsWritten) {
     EXPECT_EQ(Run("contour", "click 1\ncancel\n"), 1);
     EXPECT_THAT(told, HasSubstr("steps.script:1: click 1"));
+}
+
+TEST_F(RunTaskTest, MakesA4DContourPlot) {
+    study = "paper-helicopter-ccd-blocked";
+    EXPECT_EQ(RunExample("contour-4d"), 0) << told;
+    EXPECT_THAT(summary, HasSubstr("Wizard  finished\n"));
+    EXPECT_THAT(summary, HasSubstr("Kind: Response Contour Plot\n"));
+    EXPECT_THAT(summary, HasSubstr("Axis 3: Body length, 1.8 to 2.4\n"));
+    EXPECT_THAT(summary, HasSubstr("Axis 4: $BlockV: 1;2\n"));
+    EXPECT_THAT(summary, Not(HasSubstr("Simulation")));
+    EXPECT_THAT(Left("saved-plot.json"), HasSubstr("Body length"));
+}
+
+TEST_F(RunTaskTest, MakesADesignSpacePlot) {
+    study = "tire-tread-ccd-4-responses";
+    EXPECT_EQ(RunExample("design-space"), 0) << told;
+    EXPECT_THAT(summary, HasSubstr("Wizard  finished\n"));
+    EXPECT_THAT(summary, HasSubstr("Kind: Design Space Plot\n"));
+    EXPECT_THAT(summary, HasSubstr("Responses\n        Abrasion index\n"
+                                   "        Elongation at break\n        Hardness\n"));
+    EXPECT_THAT(summary, HasSubstr("Simulations per point: 20000\n"));
+}
+
+TEST_F(RunTaskTest, ChangesASavedPlotIntoAnother) {
+    ASSERT_EQ(RunExample("contour"), 0) << told;
+    const std::string before = KeepPlot();
+    EXPECT_EQ(RunExample("contour-sheet"), 0) << told;
+    EXPECT_THAT(summary, HasSubstr("Sheet   finished\n"));
+    EXPECT_THAT(summary, HasSubstr("Axis 1: Time, 82 to 90\n"));
+    EXPECT_THAT(Left("saved-plot.json"), HasSubstr("Time"));
+    EXPECT_NE(Left("saved-plot.json"), before);
+    EXPECT_EQ(Bytes(QString::fromStdString(plot)), before) << "its file stays as it was";
+}
+
+TEST_F(RunTaskTest, SavesNoPlotOfACancelledSheet) {
+    ASSERT_EQ(RunExample("contour"), 0) << told;
+    KeepPlot();
+    EXPECT_EQ(Run("contour-sheet", "cancel\n"), 0) << told;
+    EXPECT_THAT(summary, HasSubstr("Sheet   not finished\n"));
+    EXPECT_EQ(Left("saved-plot.json"), "none");
+}
+
+TEST_F(RunTaskTest, TellsOfASavedPlotThatCannotBeRead) {
+    plot = "missing.json";
+    EXPECT_THROW(Run("contour-sheet", "cancel\n"), kvopt::FileError);
 }
 
 TEST_F(RunTaskTest, ShowsAPageOfOneResponse) {

@@ -22,6 +22,7 @@
 
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -32,6 +33,11 @@ void WriteFile(const QString& name, const QByteArray& content) {
     QFile file(name);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
+}
+
+QByteArray ReadFile(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
 /// A folder with one good study, and a window on it.
@@ -74,11 +80,14 @@ protected:
         const auto& banner = Find<QFrame>(window, "message");
         return banner.isHidden() ? "" : Find<QLabel>(window, "messageText").text().toStdString();
     }
-    /// Presses the button of the road and lets a recorded user go through the wizard.
-    void MakePlot(const StudyWindow& window, const std::string& steps) {
+    /// Presses the button of the road and lets a recorded user go through it.
+    void Press(const StudyWindow& window, const char* road, const std::string& steps) {
         kvopt::QtPlayer player(desktop_, kvopt::UserScript::FromText(steps, "steps"));
-        Find<QPushButton>(window, "contour").click();
+        Find<QPushButton>(window, road).click();
         EXPECT_THAT(player.Verify(), IsEmpty());
+    }
+    void MakePlot(const StudyWindow& window, const std::string& steps) {
+        Press(window, "contour", steps);
     }
     /// Chooses the page from its menu and lets a recorded user fill it.
     void ShowPage(const StudyWindow& window, const char* road, const std::string& steps) {
@@ -161,9 +170,47 @@ TEST_F(StudyWindowTest, OffersAButtonForEachPlotAndAMenuEntryForEachPage) {
                             .contains(&Find<QAction>(window, road.name)));
         } else {
             EXPECT_EQ(Find<QPushButton>(window, road.name).text(), road.label);
-            EXPECT_TRUE(Find<QPushButton>(window, road.name).isEnabled());
+            EXPECT_EQ(Find<QPushButton>(window, road.name).isEnabled(),
+                      road.kind == Road::Kind::Plot)
+                << "there is no saved plot to change";
         }
     }
+}
+
+TEST_F(StudyWindowTest, SavesAChangedPlotAsAnother) {
+    StudyWindow window(Data());
+    window.OpenFolder(Studies());
+    MakePlot(window, "next\nfinish\n");
+    const auto& change = Find<QPushButton>(window, "contour-sheet");
+    EXPECT_TRUE(change.isEnabled());
+    const QByteArray before = ReadFile(Plots() + "/Contour plot 1.json");
+    Press(window, "contour-sheet", "cancel\n");
+    EXPECT_THAT(Entries(window, "plots"), ElementsAre("Contour plot 1"));
+    EXPECT_THAT(Arguments(window), Contains("Axis 1: Time, 80 to 90"));
+    Press(window, "contour-sheet", "tab \"Axes and constants\"\ntype \"1st axis low\" 82\nok\n");
+    EXPECT_THAT(Entries(window, "plots"), ElementsAre("Contour plot 1", "Contour plot 2"));
+    EXPECT_EQ(Find<QListWidget>(window, "plots").currentRow(), 1);
+    EXPECT_THAT(Arguments(window), Contains("Axis 1: Time, 82 to 90"));
+    EXPECT_EQ(ReadFile(Plots() + "/Contour plot 1.json"), before);
+    ShowPage(window, "page-select-variable", "ok\n");
+    EXPECT_FALSE(change.isEnabled()) << "no plot is shown";
+    Find<QListWidget>(window, "plots").setCurrentRow(0);
+    EXPECT_TRUE(change.isEnabled());
+}
+
+TEST_F(StudyWindowTest, OffersNoChangeOfAPlotThatCannotBeRead) {
+    WriteFile(Plots() + "/Contour plot 1.json", "no plot");
+    StudyWindow window(Data());
+    window.OpenFolder(Studies());
+    EXPECT_FALSE(Find<QPushButton>(window, "contour-sheet").isEnabled());
+}
+
+TEST_F(StudyWindowTest, NamesASavedDesignSpaceForWhatItIs) {
+    StudyWindow window(Data());
+    window.OpenFolder(Studies());
+    Press(window, "design-space", "next\nfinish\n");
+    EXPECT_THAT(Entries(window, "plots"), ElementsAre("Design space plot 1"));
+    EXPECT_THAT(Arguments(window), Contains("Kind: Design Space Plot"));
 }
 
 TEST_F(StudyWindowTest, ShowsWhatWasEnteredOnAPageAndSavesNothing) {
@@ -204,9 +251,7 @@ TEST_F(StudyWindowTest, TellsTheErrorOfAMalformedPlotAndKeepsItsFile) {
     MakePlot(window, "next\nfinish\n");
     EXPECT_THAT(Entries(window, "plots"), ElementsAre("Contour plot 1", "Contour plot 2"));
     EXPECT_EQ(Message(window), "");
-    QFile file(plot);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), "no plot");
+    EXPECT_EQ(ReadFile(plot), "no plot");
 }
 
 TEST_F(StudyWindowTest, TellsOfAStudyFileThatIsNotThere) {
