@@ -1,5 +1,6 @@
 #include "page_roads.h"
 
+#include <kvopt/designspace.h>
 #include <kvopt/host.h>
 #include <kvopt/platform.h>
 #include <kvopt/plotargs.h>
@@ -67,6 +68,24 @@ RoadResult ShowSelectVariablePage(const RoadStart& start) {
         return {};
     }
     return Entered("Selection", {{"Variable", variable}});
+}
+
+RoadResult ShowDesignSpacePage(const RoadStart& start) {
+    kvopt::DesignSpaceOptions options(&start.study);
+    kvopt::DesignSpacePage page(&start.study, options, nullptr);
+    if (!RunAlone(page, start.parent)) {
+        return {};
+    }
+    return Entered(
+        "Setpoint",
+        {{"Acceptable range simulations", std::to_string(options.acceptableRangeSimulations)},
+         {"Response profile simulations", std::to_string(options.responseProfileSimulations)},
+         {"Risk limit", std::to_string(options.dpmoLimit) + " DPMO"},
+         {"Total probability of failure", YesNo(options.useTotalProbability)},
+         {"Include model error", YesNo(options.includeModelError)},
+         {"Automatic update", YesNo(options.automaticUpdate)},
+         {"Limits at", std::to_string(options.limitConfidence) + "%"},
+         {"Possible Min/Max lines", YesNo(options.showMinMaxLines)}});
 }
 
 RoadResult ShowConfidenceLevelPage(const RoadStart& start) {

@@ -7,5 +7,6 @@
 
 RoadResult ShowSelectResponsePage(const RoadStart& start);
 RoadResult ShowSelectVariablePage(const RoadStart& start);
+RoadResult ShowDesignSpacePage(const RoadStart& start);
 RoadResult ShowConfidenceLevelPage(const RoadStart& start);
 RoadResult ShowPredictionLevelPage(const RoadStart& start);

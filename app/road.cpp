@@ -15,6 +15,7 @@ const std::vector<Road>& AllRoads() {
         {Road::Kind::Change, "contour-sheet", "C&hange...", ChangeSavedPlot},
         {Road::Kind::Page, "page-select-response", "Select &response...", ShowSelectResponsePage},
         {Road::Kind::Page, "page-select-variable", "Select &variable...", ShowSelectVariablePage},
+        {Road::Kind::Page, "page-design-space", "&Setpoint properties...", ShowDesignSpacePage},
         {Road::Kind::Page, "page-confidence-level", "&Confidence level...",
          ShowConfidenceLevelPage},
         {Road::Kind::Page, "page-prediction-level", "&Prediction level...",

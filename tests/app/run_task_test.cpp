@@ -162,6 +162,20 @@ TEST_F(RunTaskTest, ShowsAPageOfOneFactor) {
     EXPECT_THAT(Left("transcript.txt"), HasSubstr("sheet \"Select variable\""));
 }
 
+TEST_F(RunTaskTest, ShowsThePageOfSetpointProperties) {
+    EXPECT_EQ(Run("page-design-space",
+                  "expect page 6209\n"
+                  "type \"Acceptable range simulations\" 50\nok\n"
+                  "expect box error containing \"should range from 100 to 100 000\"\n"
+                  "type \"Acceptable range simulations\" 500\n"
+                  "click \"Automatic update\"\nok\n"),
+              0)
+        << told;
+    EXPECT_THAT(summary, HasSubstr("Setpoint\n        Acceptable range simulations: 500\n"));
+    EXPECT_THAT(summary, HasSubstr("Automatic update: no\n"));
+    EXPECT_THAT(Left("study.ini"), HasSubstr("500"));
+}
+
 TEST_F(RunTaskTest, ShowsAPageOfConfidenceLevels) {
     EXPECT_EQ(Run("page-confidence-level",
                   "expect page 6155\n"
