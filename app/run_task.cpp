@@ -42,6 +42,17 @@ private:
     std::shared_ptr<kvopt::Registry> registry_;
 };
 
+/// The study is the active one for as long as this lives.
+class ActiveStudy {
+public:
+    explicit ActiveStudy(kvopt::ReferenceStudy& study) {
+        kvopt::Investigation::SetActiveInvestigation(&study);
+    }
+    ~ActiveStudy() { kvopt::Investigation::SetActiveInvestigation(nullptr); }
+    ActiveStudy(const ActiveStudy&) = delete;
+    ActiveStudy& operator=(const ActiveStudy&) = delete;
+};
+
 void WriteText(const std::string& fileName, const std::string& text) {
     std::ofstream file(fileName, std::ios::binary);
     file << text;
@@ -113,7 +124,7 @@ int RunTask(const CommandLine& command, std::ostream& out, std::ostream& faults)
     const auto study = kvopt::LoadStudy(command.study);
     study->SetIniFileName(files.ini);
     const UserStores stores(files);
-    kvopt::Investigation::SetActiveInvestigation(study.get());
+    const ActiveStudy active(*study);
 
     const auto desktop = RoadDesktop::Make(command);
     const RoadResult result = road.go({*study, nullptr, command.plot});
@@ -123,7 +134,6 @@ int RunTask(const CommandLine& command, std::ostream& out, std::ostream& faults)
     }
     WriteText(command.out + "/transcript.txt", desktop->TranscriptText());
 
-    kvopt::Investigation::SetActiveInvestigation(nullptr);
     PrintSummary(*study, road, result, out);
     PrintFiles(command.out, out);
     for (const std::string& fault : unlike) {

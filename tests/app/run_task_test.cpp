@@ -117,12 +117,14 @@ TEST_F(RunTaskTest, MakesADesignSpacePlot) {
 TEST_F(RunTaskTest, ChangesASavedPlotIntoAnother) {
     ASSERT_EQ(RunExample("contour"), 0) << told;
     const std::string before = KeepPlot();
+    const std::string remembered = Left("study.ini");
     EXPECT_EQ(RunExample("contour-sheet"), 0) << told;
     EXPECT_THAT(summary, HasSubstr("Sheet   finished\n"));
     EXPECT_THAT(summary, HasSubstr("Axis 1: Time, 82 to 90\n"));
     EXPECT_THAT(Left("saved-plot.json"), HasSubstr("Time"));
     EXPECT_NE(Left("saved-plot.json"), before);
     EXPECT_EQ(Bytes(QString::fromStdString(plot)), before) << "its file stays as it was";
+    EXPECT_NE(Left("study.ini"), remembered) << "the next wizard proposes what was changed";
 }
 
 TEST_F(RunTaskTest, SavesNoPlotOfACancelledSheet) {
@@ -136,6 +138,7 @@ TEST_F(RunTaskTest, SavesNoPlotOfACancelledSheet) {
 TEST_F(RunTaskTest, TellsOfASavedPlotThatCannotBeRead) {
     plot = "missing.json";
     EXPECT_THROW(Run("contour-sheet", "cancel\n"), kvopt::FileError);
+    EXPECT_EQ(kvopt::Investigation::GetActiveInvestigation(), nullptr);
 }
 
 TEST_F(RunTaskTest, ShowsAPageOfOneResponse) {
