@@ -54,4 +54,9 @@ QColor Mixed(const QColor& one, const QColor& other, int percent) {
             part(one.blue(), other.blue())};
 }
 
+QColor Tinted(const QColor& ground, const QColor& highlight) {
+    constexpr int kTint = 22;
+    return Mixed(ground, highlight, kTint);
+}
+
 }  // namespace kvopt

@@ -18,4 +18,8 @@ QColor ToneGround(const QColor& ground, const QColor& base);
 /// `percent` of the way from one colour to the other.
 QColor Mixed(const QColor& one, const QColor& other, int percent);
 
+/// The ground of what is marked: tinted with the highlight colour, so that texts and colours on it
+/// stay as readable as they were.
+QColor Tinted(const QColor& ground, const QColor& highlight);
+
 }  // namespace kvopt

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPushButton>
 
 #include "kvopt/platform/dialog.h"
@@ -143,6 +144,27 @@ void ModalWindow::accept() {
 
 void ModalWindow::reject() {
     desktop_.Guard([this] { PressButton(FrameButton::Cancel); });
+}
+
+bool ModalWindow::event(QEvent* event) {
+    const bool taken = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest) {
+        KeepHeight();
+    }
+    return taken;
+}
+
+void ModalWindow::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    KeepHeight();
+}
+
+/// Texts that are broken into lines need more height in a narrower window, which its layout does
+/// not see to.
+void ModalWindow::KeepHeight() {
+    if (layout() != nullptr && layout()->hasHeightForWidth()) {
+        setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+    }
 }
 
 void ModalWindow::closeEvent(QCloseEvent* event) {

@@ -32,6 +32,8 @@ public:
     void accept() override;
 
 protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -44,6 +46,7 @@ protected:
     QtDesktop& desktop_;
 
 private:
+    void KeepHeight();
     bool TakeKey(const QKeyEvent& event);
     void ShowHelp();
 

@@ -12,8 +12,6 @@ namespace {
 constexpr double kTextContrast = 4.5;
 constexpr double kMarkContrast = 3.0;
 constexpr Colour kBlack = 0x000000;
-/// How much of a marked cell's ground is the highlight colour, in percent.
-constexpr int kTint = 22;
 
 QRect ToQt(const CRect& rect) {
     return {rect.left, rect.top, rect.Width(), rect.Height()};
@@ -39,7 +37,7 @@ PainterCanvas::PainterCanvas(QPainter& painter, const CRect& cell, const QPalett
 }
 
 void PainterCanvas::FillGround(const QColor& colour) {
-    ground_ = tint_.isValid() ? Mixed(colour, tint_, kTint) : colour;
+    ground_ = tint_.isValid() ? Tinted(colour, tint_) : colour;
     painter_.fillRect(ToQt(cell_), ground_);
 }
 

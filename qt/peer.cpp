@@ -40,7 +40,8 @@ void Peer::ShowAll() {
     widget_.installEventFilter(this);
     for (const auto change :
          {WindowChange::Range, WindowChange::Items, WindowChange::Text, WindowChange::Selection,
-          WindowChange::Check, WindowChange::Cells, WindowChange::Enabled, WindowChange::Visible}) {
+          WindowChange::Check, WindowChange::Cells, WindowChange::Pane, WindowChange::TopRow,
+          WindowChange::Enabled, WindowChange::Visible}) {
         PushBlocked(change);
     }
 }
@@ -88,13 +89,17 @@ void Peer::User(const std::function<void()>& action) {
     }
 }
 
+void Peer::FollowFocus(const QFocusEvent& event) {
+    const Qt::FocusReason reason = event.reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+        reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason) {
+        User([this] { model_->UserFocus(); });
+    }
+}
+
 bool Peer::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &widget_ && event->type() == QEvent::FocusIn) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-            reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason) {
-            User([this] { model_->UserFocus(); });
-        }
+        FollowFocus(static_cast<QFocusEvent&>(*event));
     }
     return false;
 }

@@ -7,6 +7,8 @@
 #include "kvopt/platform/control.h"
 #include "kvopt/platform/window_listener.h"
 
+class QFocusEvent;
+
 namespace kvopt {
 
 class QtDesktop;
@@ -48,6 +50,8 @@ protected:
     virtual void Push(WindowChange change) = 0;
     /// The program moved the keyboard here.
     virtual void TakeFocus();
+    /// The keyboard came to the widget, or to the part of it that takes it.
+    void FollowFocus(const QFocusEvent& event);
     /// Runs something the user did, unless the model has died or a push is under way; then shows
     /// what the model made of it.
     void User(const std::function<void()>& action);

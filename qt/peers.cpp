@@ -12,6 +12,8 @@
 
 #include "kvopt/platform/controls.h"
 #include "kvopt/platform/dialog.h"
+#include "kvopt/platform/markup_static.h"
+#include "kvopt/platform/property_grid.h"
 #include "kvopt/platform/virtual_worksheet.h"
 #include "qt/button_peer.h"
 #include "qt/combo_peer.h"
@@ -19,6 +21,9 @@
 #include "qt/label_peer.h"
 #include "qt/line_edit.h"
 #include "qt/list_peer.h"
+#include "qt/markup_peer.h"
+#include "qt/property_grid_peer.h"
+#include "qt/property_grid_view.h"
 #include "qt/spin_peer.h"
 #include "qt/worksheet_peer.h"
 
@@ -57,9 +62,12 @@ QWidget* MakeWidget(QtDesktop& desktop, CControl& control, QWidget& parent) {
         case ControlKind::Worksheet:
             return Bound<WorksheetPeer, VirtualWorksheet>(desktop, control,
                                                           new QTableView(&parent));
-        case ControlKind::Label:
-        case ControlKind::Markup:
         case ControlKind::PropertyGrid:
+            return Bound<PropertyGridPeer, CXTPPropertyGrid>(desktop, control,
+                                                             new PropertyGridView(&parent));
+        case ControlKind::Markup:
+            return Bound<MarkupPeer, CXTPMarkupStatic>(desktop, control, new QLabel(&parent));
+        case ControlKind::Label:
             break;
     }
     return Bound<LabelPeer, CControl>(desktop, control, new QLabel(&parent));

@@ -16,6 +16,7 @@
 #include "kvopt/platform/controls.h"
 #include "kvopt/platform/dialog.h"
 #include "kvopt/platform/keys.h"
+#include "kvopt/platform/property_grid.h"
 #include "kvopt/platform/property_page.h"
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/platform/virtual_worksheet.h"
@@ -23,6 +24,8 @@
 #include "kvopt/qt/qt_player.h"
 #include "qt/hit_point.h"
 #include "qt/page_view.h"
+#include "qt/property_grid_peer.h"
+#include "qt/property_grid_view.h"
 #include "qt/qt_text.h"
 #include "qt/sheet_window.h"
 #include "qt/worksheet_peer.h"
@@ -385,6 +388,76 @@ bool QtGestures::ContextMenu(VirtualWorksheet& worksheet, CPoint cell, CPoint pi
     QWidget* viewport = peer->Table().viewport();
     QContextMenuEvent event(QContextMenuEvent::Mouse, place, viewport->mapToGlobal(place));
     QApplication::sendEvent(viewport, &event);
+    return true;
+}
+
+PropertyGridPeer* QtGestures::ReachGrid(const CXTPPropertyGrid& grid) const {
+    QWidget* view = Reach(grid);
+    return view != nullptr ? Peer::Of<PropertyGridPeer>(*view) : nullptr;
+}
+
+bool QtGestures::SelectRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) {
+    PropertyGridPeer* peer = ReachGrid(grid);
+    if (peer == nullptr) {
+        return false;
+    }
+    const QRect place = peer->CaptionPlace(row);
+    if (place.isEmpty()) {
+        return false;
+    }
+    QTest::mouseClick(peer->Tree().viewport(), Qt::LeftButton, {}, place.center());
+    // A tree that had the keyboard all along tells nobody.
+    return grid.GetSelectedItem() == &row &&
+           (grid.Dialog().GetFocusControl() == &grid || grid.UserFocus());
+}
+
+bool QtGestures::ToggleRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) {
+    return PickInRow(grid, row, 1 - row.CurrentChoice());
+}
+
+bool QtGestures::ExpandRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, bool expand) {
+    PropertyGridPeer* peer = ReachGrid(grid);
+    if (peer == nullptr) {
+        return false;
+    }
+    const QPoint mark = peer->MarkPlace(row);
+    QTest::mouseClick(peer->Tree().viewport(), Qt::LeftButton, {}, mark);
+    return row.IsExpanded() == expand;
+}
+
+bool QtGestures::PickInRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, int choice) {
+    if (!SelectRow(grid, row)) {
+        return false;
+    }
+    PropertyGridPeer* peer = ReachGrid(grid);
+    if (peer == nullptr || peer->List() == nullptr) {
+        return false;
+    }
+    const QPointer<QComboBox> list(peer->List());
+    QTest::keyClick(&peer->Tree(), Qt::Key_F2);
+    const bool picked = PickEntry(*list, choice);
+    if (!picked && list != nullptr) {
+        list->hidePopup();
+    }
+    return picked;
+}
+
+bool QtGestures::TypeIntoRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row,
+                             const std::wstring& text, bool commit) {
+    if (!SelectRow(grid, row)) {
+        return false;
+    }
+    PropertyGridPeer* peer = ReachGrid(grid);
+    if (peer == nullptr) {
+        return false;
+    }
+    QTest::keyClick(&peer->Tree(), Qt::Key_F2);
+    if (peer->Editor() == nullptr || !TypeInto(*peer->Editor(), ToQt(text))) {
+        return false;
+    }
+    if (commit) {
+        QTest::keyClick(peer->Editor(), Qt::Key_Return);
+    }
     return true;
 }
 

@@ -10,6 +10,7 @@ class QWidget;
 namespace kvopt {
 
 class ModalWindow;
+class PropertyGridPeer;
 class QtDesktop;
 class QtPlayer;
 class WorksheetPeer;
@@ -40,6 +41,12 @@ public:
     bool PressMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) override;
     bool ReleaseMouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) override;
     bool ContextMenu(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel) override;
+    bool SelectRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) override;
+    bool ToggleRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row) override;
+    bool ExpandRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, bool expand) override;
+    bool PickInRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, int choice) override;
+    bool TypeIntoRow(CXTPPropertyGrid& grid, CXTPPropertyGridItem& row, const std::wstring& text,
+                     bool commit) override;
     bool Wait(unsigned milliseconds) override;
     bool TakePicture(const std::string& name) override;
 
@@ -48,6 +55,7 @@ private:
     /// The control's widget when a person could use it now, else null.
     QWidget* Reach(const CControl& control) const;
     WorksheetPeer* ReachWorksheet(const VirtualWorksheet& worksheet) const;
+    PropertyGridPeer* ReachGrid(const CXTPPropertyGrid& grid) const;
     bool TypeInto(QLineEdit& edit, const QString& text);
     bool GoToCell(WorksheetPeer& peer, CPoint cell);
     static void ShowCell(const WorksheetPeer& peer, CPoint cell);

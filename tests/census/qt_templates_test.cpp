@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QTableView>
 #include <QTimer>
+#include <QTreeView>
 #include <functional>
 #include <set>
 
@@ -56,8 +57,9 @@ bool IsWidgetOf(const QWidget* widget, ControlKind kind) {
     switch (kind) {
         case ControlKind::Label:
         case ControlKind::Markup:
-        case ControlKind::PropertyGrid:
             return qobject_cast<const QLabel*>(widget) != nullptr;
+        case ControlKind::PropertyGrid:
+            return widget->findChild<QTreeView*>() != nullptr;
         case ControlKind::Edit:
             return qobject_cast<const QLineEdit*>(widget) != nullptr;
         case ControlKind::ComboList:
@@ -167,10 +169,13 @@ std::vector<int> TabStops(QWidget& window, std::size_t presses) {
     for (std::size_t i = 0; i < presses; ++i) {
         QWidget* focus = QApplication::focusWidget();
         QWidget* target = focus != nullptr ? focus : &window;
+        // A part of a control takes the keyboard for it.
         bool isNumber = false;
-        const int number = target->objectName().toInt(&isNumber);
-        if (isNumber) {
-            stops.push_back(number);
+        for (QWidget* part = target; part != nullptr && !isNumber; part = part->parentWidget()) {
+            const int number = part->objectName().toInt(&isNumber);
+            if (isNumber) {
+                stops.push_back(number);
+            }
         }
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
         QApplication::sendEvent(target, &press);

@@ -4,8 +4,10 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTableView>
+#include <QTreeView>
 
 #include "tests/qt/every_kind_page.h"
+#include "tests/qt/grid_page.h"
 #include "tests/qt/picture_contrast.h"
 #include "tests/qt/qt_fixture.h"
 
@@ -113,6 +115,29 @@ TEST_P(Looks, GroundsOfCellsKeepToThePalette) {
         EXPECT_NE(ground, plain.pixel(plain.width() - 1, 1)) << "it is told apart";
         EXPECT_EQ(qGray(ground) < 128, GetParam().dark);
     }});
+}
+
+TEST_P(Looks, RowsOfAPropertyGridCanBeRead) {
+    GridPage page;
+    CPropertySheet sheet(L"Looks", nullptr);
+    sheet.AddPage(&page);
+    Play([&] { sheet.DoModal(); }, {[&] {
+             auto* tree = Front()->findChild<QTreeView*>();
+             const auto strength = [tree](const QModelIndex& index, int column) {
+                 const QRect place = tree->visualRect(index.siblingAtColumn(column));
+                 return StrongestContrast(
+                     PictureOf(*tree->viewport(), place.adjusted(2, 2, -4, -4)));
+             };
+             const QModelIndex heading = tree->model()->index(0, 0);
+             EXPECT_GE(strength(heading, 0), kReadable);
+             for (int row = 0; row < tree->model()->rowCount(heading); ++row) {
+                 const QModelIndex index = tree->model()->index(row, 0, heading);
+                 EXPECT_GE(strength(index, 0), kReadable) << row;
+                 EXPECT_GE(strength(index, 1), kReadable) << row;
+             }
+             page.Grid().SetSelectedItem(&page.Row(L"Fixed"));
+             EXPECT_GE(strength(tree->currentIndex(), 1), kReadable) << "selected";
+         }});
 }
 
 TEST_P(Looks, APageStandsInAFrameWithItsTab) {
