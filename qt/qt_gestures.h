@@ -4,7 +4,6 @@
 
 #include "kvopt/scripted/step_gestures.h"
 
-class QLineEdit;
 class QWidget;
 
 namespace kvopt {
@@ -56,7 +55,6 @@ private:
     QWidget* Reach(const CControl& control) const;
     WorksheetPeer* ReachWorksheet(const VirtualWorksheet& worksheet) const;
     PropertyGridPeer* ReachGrid(const CXTPPropertyGrid& grid) const;
-    bool TypeInto(QLineEdit& edit, const QString& text);
     bool GoToCell(WorksheetPeer& peer, CPoint cell);
     static void ShowCell(const WorksheetPeer& peer, CPoint cell);
     bool Mouse(VirtualWorksheet& worksheet, CPoint cell, CPoint pixel, int type,
