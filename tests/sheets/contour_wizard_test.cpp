@@ -96,6 +96,7 @@ TEST_F(ContourWizardTest, HoldsItsPagesInOrderAndStartsWithTheFirst) {
         }
         EXPECT_THAT(templates, ElementsAre(6158, 6160, 6168, 6161, 6169, 6157, 6170));
         EXPECT_EQ(sheet.GetActiveIndex(), 0);
+        EXPECT_FALSE(sheet.HasApply());
         EXPECT_EQ(sheet.WizardButtons(), 2UL);
         EXPECT_EQ(sheet.GetParent(), nullptr);
         std::vector<int> back;
