@@ -180,8 +180,8 @@ private:
         StoredKey& key = section_->OpenKey(UnescapeName(Trim(content.substr(0, equals))));
         if (!key.line.empty()) {
             // Of a key that stands twice the later counts; the earlier line stays in the file.
-            section_->linesBelow += key.linesAbove;
-            section_->linesBelow += key.line;
+            key.earlierLines += key.linesAbove;
+            key.earlierLines += key.line;
         }
         key.type = KeyType::Untyped;
         key.text = Unescape(Trim(content.substr(equals + 1)));
@@ -309,6 +309,7 @@ void AppendHeader(std::string& text, const SectionNode& section) {
 void PrintKeys(std::string& text, const SectionNode& section) {
     AppendLines(text, section.linesBelow);
     for (const StoredKey& key : section.Keys()) {
+        AppendLines(text, key.earlierLines);
         AppendLines(text, key.linesAbove);
         if (!key.line.empty()) {
             AppendLines(text, key.line);
@@ -392,6 +393,10 @@ std::string Print(const SectionNode& root, std::string_view tail) {
         PrintSection(text, *placed.section);
     }
     AppendLines(text, tail);
+    if (text.compare(0, kByteOrderMark.size(), kByteOrderMark) == 0) {
+        // A mark that belongs to a name would be taken for that of the file.
+        text.insert(0, kByteOrderMark);
+    }
     return text;
 }
 

@@ -12,6 +12,18 @@ bool HasLowerNumber(const SectionNode* node, int number) {
     return node->Number() < number;
 }
 
+// Of the lines of keys and comments, the comments and blank lines.
+void AppendComments(std::string_view lines, std::string& comments) {
+    while (!lines.empty()) {
+        const std::size_t size = std::min(lines.find('\n'), lines.size() - 1) + 1;
+        const std::size_t first = lines.find_first_not_of(" \t\r");
+        if (lines[first] == ';' || lines[first] == '#' || lines[first] == '\n') {
+            comments += lines.substr(0, size);
+        }
+        lines.remove_prefix(size);
+    }
+}
+
 }  // namespace
 
 const StoredKey* SectionNode::FindKey(std::string_view name) const {
@@ -89,6 +101,7 @@ int SectionNode::CountChildren(std::string_view name) const {
 
 void SectionNode::ClearKeys() {
     for (const StoredKey& key : keys_) {
+        AppendComments(key.earlierLines, linesBelow);
         linesBelow += key.linesAbove;
     }
     keys_.clear();

@@ -24,6 +24,8 @@ struct StoredKey {
     /// was written again.
     std::string_view line;
     std::string_view linesAbove;
+    /// Of a key that stands there more than once: its earlier lines, with those above them.
+    std::string earlierLines;
 };
 
 /// Sections lie at most this deep inside each other, so that no file can exhaust the stack.
@@ -69,8 +71,8 @@ public:
     bool isNew = false;
     bool isCleared = false;
 
-    /// For a section that was read from an ini file: its header line, the lines above it, and lines
-    /// of keys that are gone or doubled, which stand below the header.
+    /// For a section that was read from an ini file: its header line, the lines above it, and
+    /// comments of keys that are gone, which stand below the header.
     std::string_view line;
     std::string_view linesAbove;
     std::string linesBelow;

@@ -205,15 +205,38 @@ TEST_F(IniFileSectionTest, OfADoubledKeyOrSectionTheLaterCountsAndNoLineIsLost) 
     const std::string after = test::Slurp(file_);
     EXPECT_EQ(after,
               "[A]\n"
+              "; A again\n"
               "; first\n"
               "Key=1\n"
-              "; A again\n"
               "Key=2\n"
               "Key=4\n"
               "Other=6\n"
               "[B]\n"
               "Key=3\n");
     EXPECT_EQ(Open("A")->ReadKeyOr("Key", 0), 4);
+}
+
+TEST_F(IniFileSectionTest, AByteOrderMarkThatComesToTheTopOfTheFileStaysInItsName) {
+    test::Spill(file_, "no key\n\xEF\xBB\xBFKey=1\n");
+    Open("")->WriteKey("Other", 2);
+    EXPECT_EQ(test::Slurp(file_), "\xEF\xBB\xBF\xEF\xBB\xBFKey=1\nOther=2\n");
+    EXPECT_EQ(Open("")->ReadKeyOr("\xEF\xBB\xBFKey", 0), 1);
+}
+
+TEST_F(IniFileSectionTest, ADoubledKeyStaysWhereItIsThroughLaterWrites) {
+    test::Spill(file_, "[A]\nFirst=1\nKey=1\nKey=2\nLast=1\n");
+    for (const int value : {2, 3}) {
+        Open("A")->WriteKey("Last", value);
+        EXPECT_EQ(test::Slurp(file_),
+                  "[A]\nFirst=1\nKey=1\nKey=2\nLast=" + std::to_string(value) + "\n");
+    }
+}
+
+TEST_F(IniFileSectionTest, ClearTakesADoubledKeyWithAllItsLinesAndKeepsTheComments) {
+    test::Spill(file_, "[A]\n; first\nKey=1\n\n  # second\n \t\r\nKey=2\n; third\nKey=3\n");
+    Open("A")->Clear();
+    EXPECT_EQ(test::Slurp(file_), "[A]\n; first\n\n  # second\n \t\r\n; third\n");
+    EXPECT_EQ(Open("A")->ReadKeyOr("Key", 0), 0);
 }
 
 TEST_F(IniFileSectionTest, ClearTakesTheKeysOfOneSectionAndKeepsItsComments) {
