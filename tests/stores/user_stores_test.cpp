@@ -93,6 +93,20 @@ TEST(UserProfile, TellsTheHostWhenItsFolderCannotBeMade) {
     EXPECT_EQ(profile.GetProfileInteger("Plot", "Key", 0), 1);
 }
 
+TEST(UserProfile, GoesOnWithWhatCanBeReadOfADamagedFile) {
+    const test::TemporaryFolder folder;
+    const Variable configuration("XDG_CONFIG_HOME", folder.Path().c_str());
+    const std::string file = folder.File("kvopt/profile.ini");
+    std::filesystem::create_directory(folder.File("kvopt"));
+    test::Spill(file, "[Plot]\nContourResolution=64\nSurfaceRes");
+    const test::TroubleRecorder recorder;
+    EXPECT_EQ(UserProfile().GetProfileInteger("Plot", "ContourResolution", 32), 64);
+    ASSERT_EQ(recorder.troubles.size(), 1U);
+    EXPECT_EQ(recorder.troubles.front().kind, StoreTrouble::Kind::SetAside);
+    EXPECT_EQ(test::Slurp(file), "[Plot]\nContourResolution=64\n");
+    EXPECT_EQ(test::Slurp(file + ".unreadable-1"), "[Plot]\nContourResolution=64\nSurfaceRes");
+}
+
 TEST(UserProfile, MayBeReplacedAndComesBack) {
     const test::TemporaryFolder folder;
     const Variable configuration("XDG_CONFIG_HOME", folder.Path().c_str());
@@ -155,6 +169,21 @@ TEST(Registry, HasTheAreasOfTheApplicationBelowOneKey) {
     EXPECT_EQ(GetDontShowAgainRegistrySection(), L"DontShowAgain");
     EXPECT_THROW(GetRegistryBaseKeyName(nullptr), InvalidArgument);
     EXPECT_THROW(GetRegistryBaseKeyNameW(nullptr), InvalidArgument);
+}
+
+TEST(Registry, GoesOnWithWhatCanBeReadOfADamagedFile) {
+    const test::TemporaryFolder folder;
+    const Variable configuration("XDG_CONFIG_HOME", folder.Path().c_str());
+    const std::string file = folder.File("kvopt/registry.ini");
+    std::filesystem::create_directory(folder.File("kvopt"));
+    test::Spill(file, "[App][WindowPos]\nLeft=3\n[App][Dock");
+    const test::TroubleRecorder recorder;
+    Registry registry;
+    EXPECT_THAT(registry.SubKeys("App"), ElementsAre("WindowPos"));
+    EXPECT_EQ(registry.GetKey("App\\WindowPos")->ReadKeyOr("Left", 0), 3);
+    ASSERT_EQ(recorder.troubles.size(), 1U);
+    EXPECT_EQ(test::Slurp(recorder.troubles.front().movedTo),
+              "[App][WindowPos]\nLeft=3\n[App][Dock");
 }
 
 TEST(Registry, MayBeReplacedAndComesBack) {
