@@ -8,6 +8,7 @@
 #include "kvopt/host.h"
 #include "kvopt/plotargs.h"
 #include "kvopt/selection.h"
+#include "kvopt/statpages.h"
 #include "kvopt/study.h"
 #include "kvopt/text/exceptions.h"
 
@@ -87,6 +88,26 @@ void ReadAnyPlot(const ConfigurationSection& section) {
     }
 }
 
+void ReadSweetSpot(const ConfigurationSection& section, bool isMixture) {
+    SweetSpotData plot(&Study(), isMixture, "");
+    if (!plot.ReadSection(&section)) {
+        return;
+    }
+    ConfigurationStore store;
+    plot.WriteSection(store.Root().get());
+    Require(SweetSpotData(&Study(), isMixture, "").ReadSection(store.Root().get()),
+            "a sweet spot plot is not read back");
+}
+
+void ReadLevelPages(const ConfigurationSection& section) {
+    CConfLev::ConfLev level = CConfLev::None;
+    CConfLev::ConfLev tolerance = CConfLev::None;
+    CIntervalType::IntervalType type = CIntervalType::None;
+    ConfidenceLevelPage::ReadSection(&section, level);
+    ConfidenceLevelPage::ReadSection(&section, level, tolerance, type);
+    PredictionLevelPage::ReadSection(&section, level, tolerance, type);
+}
+
 void ReadContourPage(const ConfigurationSection& section) {
     ContourPageData(&Study(), false, false, false, false).ReadSection(&section);
 }
@@ -101,6 +122,9 @@ void ReadEverything(const ConfigurationSection& section) {
     ReadAnyPlot(section);
     ReadContourPlot(section, false);
     ReadContourPlot(section, true);
+    ReadSweetSpot(section, false);
+    ReadSweetSpot(section, true);
+    ReadLevelPages(section);
 }
 
 }  // namespace kvopt::fuzz

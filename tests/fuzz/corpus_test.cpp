@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -53,25 +54,26 @@ TEST_P(FuzzTarget, HasNoFindingInTheEmptyInputAndInSingleBytes) {
     }
 }
 
-// The names of the classes for which `bool NAME::ReadSection(` stands in the sources.
-std::set<std::string> ClassesThatReadSections() {
-    std::set<std::string> names;
+void AddMatches(const std::string& folder, const std::regex& pattern,
+                std::set<std::string>& names) {
     for (const auto& entry :
-         std::filesystem::recursive_directory_iterator(KVOPT_SOURCE_DIR "/src")) {
-        if (entry.path().extension() != ".cpp") {
+         std::filesystem::recursive_directory_iterator(KVOPT_SOURCE_DIR "/" + folder)) {
+        if (!entry.is_regular_file()) {
             continue;
         }
         const std::string text = test::Slurp(entry.path().string());
-        const std::string end = "::ReadSection(";
-        for (std::size_t at = text.find(end); at != std::string::npos;
-             at = text.find(end, at + 1)) {
-            const std::size_t begin = text.rfind(' ', at) + 1;
-            const std::size_t line = text.rfind('\n', at) + 1;
-            if (text.compare(line, begin - line, "bool ") == 0) {
-                names.insert(text.substr(begin, at - begin));
-            }
+        for (std::sregex_iterator match(text.begin(), text.end(), pattern), end; match != end;
+             ++match) {
+            names.insert((*match)[1]);
         }
     }
+}
+
+// Those that define it themselves, and the enumerations that have it from their common base.
+std::set<std::string> ClassesThatReadSections() {
+    std::set<std::string> names;
+    AddMatches("src", std::regex("\n(?:bool|void) (\\w+)::ReadSection\\("), names);
+    AddMatches("include", std::regex("class KVOPT_EXPORT (\\w+)[^;{]*public EnumHelper<"), names);
     return names;
 }
 
