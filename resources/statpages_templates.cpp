@@ -1,5 +1,7 @@
 #include "statpages_templates.h"
 
+#include <utility>
+
 namespace kvopt {
 
 using namespace layout;
@@ -11,7 +13,7 @@ LayoutItem Levels(int number) {
 }
 
 LayoutItem ConfidenceLevels() {
-    return Row({Text("Confidence level:").Buddy(6299), Levels(6299).Named("Confidence level")});
+    return Levels(6299).Named("Confidence level");
 }
 
 LayoutItem IntervalTypes(int number) {
@@ -20,24 +22,33 @@ LayoutItem IntervalTypes(int number) {
         .Entries({"Confidence", "Prediction", "Tolerance"});
 }
 
-LayoutItem ToleranceProportions(const LayoutItem& label) {
-    return Row({label.Buddy(6341), Levels(6341).Named("Tolerance proportion").Disabled()});
+LayoutItem ToleranceProportions() {
+    return Levels(6341).Named("Tolerance proportion").Disabled();
 }
 
+/// Labels and lists in turn, in line.
+LayoutItem Choices(std::vector<LayoutItem> cells) {
+    return Row({Grid(2, std::move(cells)), Space()});
+}
+
+constexpr const char* kConfidenceLevel = "Confidence level:";
 constexpr const char* kIntervalType = "Interval type:";
 constexpr const char* kToleranceProportion = "Tolerance proportion:";
 
 }  // namespace
 
 std::vector<DialogTemplate> StatPagesTemplates() {
-    return {{6155, "Confidence level",
-             Column({ConfidenceLevels(),
-                     Row({Label(6302, kIntervalType).Buddy(6300), IntervalTypes(6300)}),
-                     ToleranceProportions(Label(6342, kToleranceProportion)), Space()})},
-            {6230, "Interval estimation",
-             Column({Row({Text(kIntervalType).Buddy(6344), IntervalTypes(6344)}),
-                     ConfidenceLevels(), ToleranceProportions(Text(kToleranceProportion)),
-                     Label(6351, "").Wraps(), Space()})}};
+    return {
+        {6155, "Confidence level",
+         Column({Choices({Text(kConfidenceLevel).Buddy(6299), ConfidenceLevels(),
+                          Label(6302, kIntervalType).Buddy(6300), IntervalTypes(6300),
+                          Label(6342, kToleranceProportion).Buddy(6341), ToleranceProportions()}),
+                 Space()})},
+        {6230, "Interval estimation",
+         Column({Choices({Text(kIntervalType).Buddy(6344), IntervalTypes(6344),
+                          Text(kConfidenceLevel).Buddy(6299), ConfidenceLevels(),
+                          Text(kToleranceProportion).Buddy(6341), ToleranceProportions()}),
+                 Label(6351, "").Wraps(), Space()})}};
 }
 
 }  // namespace kvopt
