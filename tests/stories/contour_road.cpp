@@ -1,12 +1,9 @@
 #include "tests/stories/contour_road.h"
 
-#include <gtest/gtest.h>
-
 #include "kvopt/host.h"
 #include "kvopt/plotargs.h"
 #include "kvopt/sheets.h"
-#include "kvopt/stores.h"
-#include "tests/stories/contour_plot_text.h"
+#include "tests/stories/saved_plot.h"
 #include "tests/stories/story_stage.h"
 
 namespace kvopt::test {
@@ -21,35 +18,6 @@ ContourPlotData NewPlot(StoryStage& stage, const std::string& iniFile, const Plo
     return data;
 }
 
-/// Gives a plot text constants that differ from those of another. A saved plot brings a text back
-/// only for a constant that is there already, which an application's own plots have.
-void AddOtherTexts(StoryStage& stage, const ContourPlotData& other, ContourPlotData& plot) {
-    for (const auto* constant = other.GetPlotConstants(); constant->IsDefined(); ++constant) {
-        const FactorClass* factor = stage.Study().GetVariables()->GetFactor(constant->Name());
-        if (!constant->QualValue().empty()) {
-            const std::string first = factor->GetSetting(1);
-            FactorConstants::Add(
-                plot.GetPlotConstants(),
-                {constant->Name(), constant->QualValue() == first ? factor->GetSetting(2) : first,
-                 FactorConstants::CUSTOM});
-        }
-    }
-}
-
-/// Saves the plot and reads it back into an object that holds none of it.
-void SavePlot(StoryStage& stage, const ContourPlotData& data, const std::string& name,
-              const PlotKind& kind) {
-    ConfigurationStore saved;
-    data.WriteSection(saved.Root().get());
-    saved.Save(stage.FileOf(name));
-
-    const ConfigurationStore loaded = ConfigurationStore::Load(stage.FileOf(name));
-    ContourPlotData again = NewPlot(stage, "", kind);
-    AddOtherTexts(stage, data, again);
-    EXPECT_TRUE(again.ReadSection(loaded.Root().get()));
-    EXPECT_EQ(ContourPlotText(again), ContourPlotText(data));
-}
-
 }  // namespace
 
 bool RunContourWizard(StoryStage& stage, const std::string& savedPlot, const PlotKind& kind) {
@@ -57,7 +25,7 @@ bool RunContourWizard(StoryStage& stage, const std::string& savedPlot, const Plo
     const bool finished = ShowContourWizard(nullptr, data, &stage.Study(), true, false);
     stage.NoteResult(finished ? "finished" : "not finished");
     if (finished) {
-        SavePlot(stage, data, savedPlot, kind);
+        SavePlot(stage, data, NewPlot(stage, "", kind), savedPlot);
     }
     return finished;
 }

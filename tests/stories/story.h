@@ -20,6 +20,7 @@ struct Story {
 /// The stories of each wizard and sheet, by the source that tells them.
 std::vector<Story> ContourStories();
 std::vector<Story> DesignSpaceStories();
+std::vector<Story> SheetStories();
 
 /// All of them.
 std::vector<Story> AllStories();

@@ -32,8 +32,8 @@ std::string StoryFile(const std::string& name) {
 
 std::vector<Story> AllStories() {
     std::vector<Story> all = ContourStories();
-    for (const Story& story : DesignSpaceStories()) {
-        all.push_back(story);
+    for (const auto& more : {DesignSpaceStories(), SheetStories()}) {
+        all.insert(all.end(), more.begin(), more.end());
     }
     return all;
 }

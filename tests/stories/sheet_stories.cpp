@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "kvopt/axes.h"
+#include "kvopt/platform.h"
+#include "kvopt/plotargs.h"
+#include "kvopt/sheets.h"
+#include "kvopt/text.h"
+#include "tests/stories/saved_plot.h"
+#include "tests/stories/story.h"
+#include "tests/stories/story_stage.h"
+
+namespace kvopt::test {
+
+namespace {
+
+using Type = ContourPageData::Type;
+using Axes = ContourPageData::AxisType;
+
+/// A new plot, as an application makes it.
+ContourPlotData NewPlot(StoryStage& stage, Type type, const std::string& iniFile) {
+    const bool isDesignSpace = type == ContourPageData::ds_probability;
+    return ContourPlotData(&stage.Study(), 0, iniFile, isDesignSpace, false, false, false);
+}
+
+/// Chooses the axes as a host does that asks nobody.
+void ChooseAxes(StoryStage& stage, Type type, bool isMixture, ContourPlotData& plot) {
+    const Investigation* study = &stage.Study();
+    switch (type) {
+        case ContourPageData::contour_2D:
+        case ContourPageData::surface_3D:
+            if (isMixture) {
+                Mixture2DAxisHelper(study, &plot).Setup();
+                plot.GetContourTypeData()->SetPlotType(type);
+            } else {
+                ContourAxisHelper(study, &plot, type, ContourPlotData::Process2D).Setup();
+            }
+            return;
+        case ContourPageData::contour_4D:
+        case ContourPageData::surface_4D:
+            if (isMixture) {
+                Mixture4DAxisHelper(study, &plot, type).Setup();
+            } else {
+                Contour4DAxisHelper(study, &plot, type).Setup();
+            }
+            return;
+        case ContourPageData::ds_probability:
+            ProbabilityContourAxisHelper(study, &plot, isMixture).Setup();
+            return;
+    }
+}
+
+/// What a host does with each update of its plot.
+class PlotListener : public PropertyPageListener {
+public:
+    explicit PlotListener(std::function<void()> draw) : draw_(std::move(draw)) {}
+    void ListenerUpdate() override { draw_(); }
+
+private:
+    std::function<void()> draw_;
+};
+
+/// The constants that a plot gets when its wizard is finished.
+void AddConstants(StoryStage& stage, ContourPlotData& plot) {
+    const Variables* variables = stage.Study().GetVariables();
+    for (const FactorClass* factor : variables->GetAllFactors()) {
+        if (!FactorConstants::IsMember(plot.GetPlotConstants(), factor->GetName())) {
+            FactorConstants::AddConstant(plot.GetPlotConstants(), variables, factor,
+                                         FactorConstants::LOW);
+        }
+    }
+}
+
+/// Opens the sheet of a plot that was saved before, and saves what it left.
+bool EditSavedPlot(StoryStage& stage, Type type, Axes axes, const std::function<void()>& draw) {
+    ContourPlotData made = NewPlot(stage, type, stage.IniFile());
+    ChooseAxes(stage, type, axes == ContourPageData::mixture, made);
+    AddConstants(stage, made);
+    SavePlot(stage, made, NewPlot(stage, type, ""), "plot.json");
+
+    ContourPlotData plot = NewPlot(stage, type, stage.IniFile());
+    EXPECT_TRUE(LoadPlot(stage, made, "plot.json", plot));
+    BasePropertyPageHelper helper;
+    PlotListener listener(draw);
+    listener.ConnectTo(&helper);
+    CWnd window;
+    window.SetText(L"Plot of the study");
+    const bool confirmed =
+        ShowContourSheet(&window, plot, &stage.Study(), plot.GetPlotConstants(), &helper, true);
+    stage.NoteResult(confirmed ? "confirmed" : "not confirmed");
+    SavePlot(stage, plot, NewPlot(stage, type, ""), "edited-plot.json");
+    return confirmed;
+}
+
+void NoteDrawing() {
+    Desktop::Instance().Note("drawn");
+}
+
+template <Type type, Axes axes>
+void Confirm(StoryStage& stage) {
+    EXPECT_TRUE(EditSavedPlot(stage, type, axes, NoteDrawing));
+}
+
+template <Type type, Axes axes>
+void Cancel(StoryStage& stage) {
+    EXPECT_FALSE(EditSavedPlot(stage, type, axes, NoteDrawing));
+}
+
+/// The analyst abandons the plot while it is drawn for the second time.
+void Abandon(StoryStage& stage) {
+    int drawings = 0;
+    const auto draw = [&drawings] {
+        NoteDrawing();
+        if (++drawings == 2) {
+            throw CancelException();
+        }
+    };
+    EXPECT_THROW(EditSavedPlot(stage, ContourPageData::contour_2D, ContourPageData::process, draw),
+                 CancelException);
+    stage.NoteResult("abandoned");
+    EXPECT_EQ(stage.Bytes("study.ini"), "");
+    EXPECT_EQ(stage.Bytes("edited-plot.json"), "");
+}
+
+}  // namespace
+
+std::vector<Story> SheetStories() {
+    constexpr Axes process = ContourPageData::process;
+    constexpr Axes mixture = ContourPageData::mixture;
+    return {
+        {"sheet_of_a_contour", "tire-tread-ccd-4-responses",
+         Confirm<ContourPageData::contour_2D, process>},
+        {"sheet_of_a_mixture_contour", "concrete-mixture-6-components-5-responses",
+         Confirm<ContourPageData::contour_2D, mixture>},
+        {"sheet_of_a_contour_with_outer_axes", "sonoluminescence-2-7-3",
+         Confirm<ContourPageData::contour_4D, process>},
+        {"sheet_of_a_mixture_contour_with_outer_axes", "vinyl-thickness-mixture-process",
+         Confirm<ContourPageData::contour_4D, mixture>},
+        {"sheet_of_a_surface", "paper-helicopter-ccd-blocked",
+         Confirm<ContourPageData::surface_3D, process>},
+        {"sheet_of_a_mixture_surface", "yarn-elongation-simplex-lattice",
+         Confirm<ContourPageData::surface_3D, mixture>},
+        {"sheet_of_a_surface_with_outer_axes", "electron-microscope-2-8-4",
+         Confirm<ContourPageData::surface_4D, process>},
+        {"sheet_of_a_mixture_surface_with_outer_axes", "vinyl-thickness-mixture-process",
+         Confirm<ContourPageData::surface_4D, mixture>},
+        {"sheet_of_a_design_space", "tire-tread-ccd-4-responses",
+         Confirm<ContourPageData::ds_probability, process>},
+        {"sheet_of_a_mixture_design_space", "vinyl-thickness-mixture-process",
+         Confirm<ContourPageData::ds_probability, mixture>},
+        {"sheet_cancelled", "tire-tread-ccd-4-responses",
+         Cancel<ContourPageData::contour_2D, process>},
+        {"sheet_abandoned", "tire-tread-ccd-4-responses", Abandon},
+    };
+}
+
+}  // namespace kvopt::test
