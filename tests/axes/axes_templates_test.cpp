@@ -29,7 +29,17 @@ struct PageRow {
     const char* caption;
     std::size_t axes;
     bool hasGrid;
+    std::size_t outerAxes = 0;  ///< with a box and a button for settings
 };
+
+/// Whether a row of the page, counted from 0, is an outer one.
+bool IsOuter(const PageRow& page, std::size_t row) {
+    return row < page.axes && row >= page.axes - page.outerAxes;
+}
+
+int SettingsNumber(const PageRow& page, std::size_t row, int first) {
+    return first + static_cast<int>(row - (page.axes - page.outerAxes));
+}
 
 void PrintTo(const PageRow& row, std::ostream* out) {
     *out << row.number;
@@ -72,11 +82,20 @@ TEST_P(AxesTemplates, HaveARowOfNamedControlsForEachAxis) {
 TEST_P(AxesTemplates, GoFromListToLowToHighToDefaultByTab) {
     std::vector<int> expected;
     for (std::size_t i = 0; i < GetParam().axes; ++i) {
-        expected.insert(expected.end(),
-                        {kRows[i].list, kRows[i].low, kRows[i].high, kRows[i].button});
+        expected.insert(expected.end(), {kRows[i].list, kRows[i].low, kRows[i].high});
+        if (IsOuter(GetParam(), i)) {
+            expected.push_back(SettingsNumber(GetParam(), i, 6050));
+        }
+        expected.push_back(kRows[i].button);
+        if (IsOuter(GetParam(), i)) {
+            expected.push_back(SettingsNumber(GetParam(), i, 6003));
+        }
     }
     if (GetParam().hasGrid) {
         expected.push_back(6139);
+    }
+    if (GetParam().outerAxes > 0) {
+        expected.insert(expected.end(), {6279, 6280, 6305});
     }
     std::vector<int> order;
     for (const ControlTemplate& control : dialog.Template().Controls()) {
@@ -113,7 +132,7 @@ TEST_P(AxesTemplates, HoldTheGridOfConstantFactorsWhereTheyHaveOne) {
     for (const ControlTemplate& control : dialog.Template().Controls()) {
         heading = heading || std::string(control.label) == "Constant factors:";
     }
-    EXPECT_EQ(heading, GetParam().hasGrid);
+    EXPECT_EQ(heading, GetParam().hasGrid || GetParam().outerAxes > 0);
 }
 
 TEST_P(AxesTemplates, LetTheGridGrowWithThePage) {
@@ -128,13 +147,38 @@ TEST_P(AxesTemplates, LetTheGridGrowWithThePage) {
     }
     EXPECT_EQ(root.children.front().kind, LayoutKind::Grid);
     EXPECT_EQ(root.children.front().columns, 5);
-    EXPECT_EQ(root.children.front().children.size(), 5 * (GetParam().axes + 1));
+    // The range of an outer row is one item, which covers two columns.
+    EXPECT_EQ(root.children.front().children.size(),
+              5 * (GetParam().axes + 1) - GetParam().outerAxes);
+}
+
+TEST_P(AxesTemplates, LayTheSettingsOfAnOuterAxisOverItsRangeAndItsDefaultButton) {
+    std::size_t stacks = 0;
+    for (const LayoutItem& cell : dialog.Template().layout.children.front().children) {
+        stacks += cell.kind == LayoutKind::Stack ? 1 : 0;
+    }
+    EXPECT_EQ(stacks, 2 * GetParam().outerAxes);
+    for (std::size_t i = 0; i < GetParam().axes; ++i) {
+        if (!IsOuter(GetParam(), i)) {
+            continue;
+        }
+        const std::string axis = std::string(kRows[i].ordinal) + " axis settings";
+        const int edit = SettingsNumber(GetParam(), i, 6050);
+        const int button = SettingsNumber(GetParam(), i, 6003);
+        ASSERT_NE(dialog.Item<CEdit>(edit), nullptr);
+        ASSERT_NE(dialog.Item<CButton>(button), nullptr);
+        EXPECT_EQ(NameOf(edit), axis);
+        EXPECT_EQ(NameOf(button), "Choose " + axis);
+        EXPECT_EQ(dialog.Item<CButton>(button)->GetText(), L"Settings");
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, AxesTemplates,
                          testing::Values(PageRow{6152, "Axes", 6, false},
                                          PageRow{6160, "Axes and constants", 2, true},
-                                         PageRow{6168, "Axes and constants", 3, true}));
+                                         PageRow{6161, "4D axes", 4, false, 2},
+                                         PageRow{6168, "Axes and constants", 3, true},
+                                         PageRow{6169, "4D axes", 5, false, 2}));
 
 }  // namespace
 }  // namespace kvopt::test

@@ -1,8 +1,8 @@
 #pragma once
 
 /// \file
-/// A desktop whose user is a function: it acts on the sheet while it runs, boxes are recorded and
-/// answered from a queue. The transcript keeps the order.
+/// A desktop whose user is a function: it acts on a sheet or dialog while it runs, boxes are
+/// recorded and answered from a queue. The transcript keeps the order.
 
 #include <deque>
 #include <functional>
@@ -27,6 +27,7 @@ public:
     };
 
     std::function<void(CPropertySheet&)> user;  ///< what happens while a sheet runs
+    std::function<void(CDialog&)> dialogUser;   ///< what happens while a dialog runs
     std::deque<BoxAnswer> answers;              ///< then No to questions and OK to the rest
     std::vector<Box> boxes;
     std::function<void()> onBox;  ///< looks at the world while a box is up
@@ -36,6 +37,11 @@ protected:
     void DoRunSheet(CPropertySheet& sheet) override {
         if (user) {
             user(sheet);
+        }
+    }
+    void DoRunDialog(CDialog& dialog) override {
+        if (dialogUser) {
+            dialogUser(dialog);
         }
     }
     BoxAnswer DoShowBox(const MessageBoxRequest& request) override {
