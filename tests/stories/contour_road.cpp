@@ -22,6 +22,9 @@ ContourPlotData NewPlot(StoryStage& stage, const std::string& iniFile, const Plo
 
 bool RunContourWizard(StoryStage& stage, const std::string& savedPlot, const PlotKind& kind) {
     ContourPlotData data = NewPlot(stage, stage.IniFile(), kind);
+    if (kind.prepare != nullptr) {
+        kind.prepare(stage, data);
+    }
     const bool finished = ShowContourWizard(nullptr, data, &stage.Study(), true, false);
     stage.NoteResult(finished ? "finished" : "not finished");
     if (finished) {

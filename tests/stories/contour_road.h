@@ -3,8 +3,9 @@
 #include <string>
 
 namespace kvopt {
+class ContourPlotData;
 class SelectResponseBase;
-}
+}  // namespace kvopt
 
 namespace kvopt::test {
 
@@ -17,6 +18,8 @@ struct PlotKind {
     /// Who says which responses there are; null for the study. With one, a design space is that of
     /// all responses that have a limit.
     SelectResponseBase* responses = nullptr;
+    /// What the application does to the plot before the wizard runs; null for nothing.
+    void (*prepare)(StoryStage& stage, ContourPlotData& plot) = nullptr;
 };
 
 /// One run of the wizard on a new plot of the stage's study. A finished plot is saved under the

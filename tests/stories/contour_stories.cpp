@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "kvopt/plotargs.h"
+#include "kvopt/study.h"
 #include "tests/stories/contour_road.h"
 #include "tests/stories/story.h"
 #include "tests/stories/story_stage.h"
@@ -12,6 +14,30 @@ namespace {
 
 void FinishOnce(StoryStage& stage) {
     EXPECT_TRUE(RunContourWizard(stage, "plot.json"));
+}
+
+/// A plot that holds a text for each qualitative factor from the start.
+void FinishWithTexts(StoryStage& stage) {
+    PlotKind kind;
+    kind.prepare = [](StoryStage& inside, ContourPlotData& plot) {
+        for (const FactorClass* factor : inside.Study().GetVariables()->GetAllFactors()) {
+            if (factor->IsQualitative()) {
+                FactorConstants::Add(
+                    plot.GetPlotConstants(),
+                    {factor->GetName(), factor->GetSetting(1), FactorConstants::CUSTOM});
+            }
+        }
+    };
+    EXPECT_TRUE(RunContourWizard(stage, "plot.json", kind));
+}
+
+/// A plot whose third axis holds nothing.
+void FinishWithAnEmptyThirdAxis(StoryStage& stage) {
+    PlotKind kind;
+    kind.prepare = [](StoryStage& /*inside*/, ContourPlotData& plot) {
+        plot.GetAxisInfo(ContourPlotData::Mixture4D)[3]->SetName(AxisInfo::GetNotUsedName());
+    };
+    EXPECT_TRUE(RunContourWizard(stage, "plot.json", kind));
 }
 
 void FinishTwice(StoryStage& stage) {
@@ -50,6 +76,11 @@ std::vector<Story> ContourStories() {
         {"contour_wizard_opened_again", "paper-helicopter-ccd-blocked", FinishTwice},
         {"contour_wizard_cancelled", "chemical-reaction-ccd-2-blocks", FinishThenCancel},
         {"contour_with_a_doubtful_range", "chemical-reaction-ccd-2-blocks", FinishOnce},
+        {"contour_over_outer_factors", "paper-helicopter-ccd-blocked", FinishOnce},
+        {"contour_over_outer_settings", "sonoluminescence-2-7-3", FinishWithTexts},
+        {"contour_of_a_mixture_over_outer_factors", "vinyl-thickness-mixture-process", FinishOnce},
+        {"contour_without_a_third_component", "vinyl-thickness-mixture-process",
+         FinishWithAnEmptyThirdAxis},
         {"contour_without_a_factor_that_fits", "cast-fatigue-plackett-burman-12", CancelOnly},
     };
 }
