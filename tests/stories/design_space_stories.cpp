@@ -38,7 +38,6 @@ void FinishFromADesignSpace(StoryStage& stage) {
 
 /// A host's own sheet of what its setpoint is simulated by.
 void EditTheSetpoint(StoryStage& stage) {
-    const RiskSettings risk;
     DesignSpaceOptions options(&stage.Study());
     DesignSpacePage setpoint(&stage.Study(), options, nullptr);
     DesignSpaceIntervalPage interval(&stage.Study(), options, nullptr, true);
@@ -51,6 +50,12 @@ void EditTheSetpoint(StoryStage& stage) {
     EXPECT_EQ(DesignSpaceOptions(&stage.Study()), options) << "the study remembers it";
 }
 
+void EditTheSetpointInDpmo(StoryStage& stage) {
+    RiskSettings risk;
+    risk.ShowDpmo();
+    EditTheSetpoint(stage);
+}
+
 }  // namespace
 
 std::vector<Story> DesignSpaceStories() {
@@ -59,7 +64,8 @@ std::vector<Story> DesignSpaceStories() {
         {"design_space_in_dpmo", "tire-tread-ccd-4-responses", FinishInDpmo},
         {"design_space_of_a_mixture", "concrete-mixture-6-components-5-responses", FinishInPercent},
         {"design_space_with_given_constants", "tire-tread-ccd-4-responses", FinishFromADesignSpace},
-        {"setpoint_properties", "tire-tread-ccd-4-responses", EditTheSetpoint}};
+        {"setpoint_properties", "tire-tread-ccd-4-responses", EditTheSetpoint},
+        {"setpoint_in_dpmo", "tire-tread-ccd-4-responses", EditTheSetpointInDpmo}};
 }
 
 }  // namespace kvopt::test
