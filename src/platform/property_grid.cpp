@@ -196,14 +196,11 @@ bool CXTPPropertyGrid::UserSelect(CXTPPropertyGridItem* item) {
 }
 
 bool CXTPPropertyGrid::UserExpand(CXTPPropertyGridItem* item, bool expand) {
-    return ActOn(item, [item, expand, this] {
+    return ActOn(item, [item, expand] {
         if (item->Children().empty()) {
             return false;
         }
-        CommitEdit();
-        if (Holds(item)) {
-            expand ? item->Expand() : item->Collapse();
-        }
+        expand ? item->Expand() : item->Collapse();
         return true;
     });
 }

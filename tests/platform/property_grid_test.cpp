@@ -98,6 +98,7 @@ TEST_F(Grid, TakesAllRowsAwayAndIsFilledAnew) {
     EXPECT_EQ(boundCount, 3) << "the editor was abandoned";
     EXPECT_THAT(Heard(), IsEmpty());
     Fill();
+    EXPECT_EQ(grid->GetTopIndex(), 0) << "the place of before is forgotten";
     EXPECT_EQ(Shown().size(), 7U);
     EXPECT_TRUE(grid->UserToggle(red));
 }
@@ -180,7 +181,39 @@ TEST_F(Grid, ShowsItsPaneAndDividesItsWidth) {
     EXPECT_EQ(grid->GetViewDivider(), 0.4);
 }
 
+TEST_F(Grid, LetsItsViewsLetGoOfRowsBeforeTheyDie) {
+    class Mortal : public CXTPPropertyGridItem {
+    public:
+        explicit Mortal(bool& alive) : CXTPPropertyGridItem(L"Mortal"), alive_(alive) {
+            alive_ = true;
+        }
+        ~Mortal() override { alive_ = false; }
+
+    private:
+        bool& alive_;
+    };
+    class View : public CountingView {
+    public:
+        explicit View(const bool& alive) : alive_(alive) {}
+        void OnWindowChanged(CWnd& /*window*/, WindowChange /*change*/) override { seen = alive_; }
+        bool seen = false;
+
+    private:
+        const bool& alive_;
+    };
+    bool alive = false;
+    View view(alive);
+    numbers->AddChildItem(std::make_unique<Mortal>(alive));
+    grid->AddListener(&view);
+    grid->ResetContent();
+    EXPECT_TRUE(view.seen);
+    EXPECT_FALSE(alive);
+    grid->RemoveListener(&view);
+}
+
 TEST_F(Grid, SelectsRowsThatAreShown) {
+    EXPECT_FALSE(grid->UserSelect(shade));
+    EXPECT_THAT(dialog->GetFocusControl(), IsNull()) << "what is refused moves no focus";
     EXPECT_TRUE(grid->UserSelect(colours));
     EXPECT_EQ(grid->GetSelectedItem(), colours);
     EXPECT_EQ(dialog->GetFocusControl(), grid);
@@ -240,6 +273,10 @@ TEST_F(Grid, PicksAChoice) {
     EXPECT_THAT(Heard(), IsEmpty());
     EXPECT_TRUE(grid->UserPick(red, 0));
     EXPECT_THAT(Heard(), ElementsAre("3 Red=Yes"));
+    int flag = 2;
+    red->BindToBool(&flag);
+    EXPECT_TRUE(grid->UserPick(red, 0));
+    EXPECT_EQ(flag, 2) << "the choice that stands there is not stored again";
     blue->EnableConstraint(1, false);
     EXPECT_FALSE(grid->UserPick(blue, 0)) << "disabled";
     EXPECT_FALSE(grid->UserPick(blue, 3));

@@ -206,6 +206,8 @@ TEST(PropertyGridBool, HasTwoTexts) {
     EXPECT_FALSE(item.GetBool());
     item.SetValue(L"Fixed");
     EXPECT_TRUE(item.GetBool());
+    item.SetValue(L"random");
+    EXPECT_TRUE(item.GetBool());
     item.Choose(1);
     EXPECT_FALSE(item.GetBool());
     EXPECT_FALSE(CXTPPropertyGridItemBool(L"a", L"Yes", L"No").GetBool());
