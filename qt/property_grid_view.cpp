@@ -122,6 +122,9 @@ PropertyGridView::PropertyGridView(QWidget* parent)
     scroll->setWidgetResizable(true);
     scroll->setFixedHeight(fontMetrics().lineSpacing() * kDescriptionLines);
     scroll->setWidget(description_);
+    // The pane's ground, not that of a window.
+    scroll->viewport()->setAutoFillBackground(false);
+    description_->setAutoFillBackground(false);
     auto* texts = new QVBoxLayout(pane_);
     texts->addWidget(caption_);
     texts->addWidget(scroll);
