@@ -78,4 +78,27 @@ TEST(CommandLine, PlaysAScriptWithoutWindowsUnlessTheyAreNamed) {
         FrontEnd::Qt);
 }
 
+TEST(CommandLine, TakesAScaleAndADarkLookOfAnyTask) {
+    const CommandLine plain = CommandLine::Parse({"study.json"});
+    EXPECT_EQ(plain.scale, 1.0);
+    EXPECT_FALSE(plain.dark);
+    const CommandLine window = CommandLine::Parse({"--dark", "study.json", "--scale", "2"});
+    EXPECT_EQ(window.scale, 2.0);
+    EXPECT_TRUE(window.dark);
+    EXPECT_EQ(window.study, "study.json");
+    const CommandLine run =
+        CommandLine::Parse({"run", AllRoads().front().name, "study.json", "--scale", "1.5"});
+    EXPECT_EQ(run.scale, 1.5);
+}
+
+TEST(CommandLine, RefusesAScaleThatNobodyCouldRead) {
+    for (const char* factor : {"0.4", "5", "two", "", "-1"}) {
+        EXPECT_THAT(Refusal({"study.json", "--scale", factor}),
+                    HasSubstr("--scale takes a number from 0.5 to 4, not"))
+            << factor;
+    }
+    EXPECT_EQ(CommandLine::Parse({"--scale", "0.5"}).scale, 0.5);
+    EXPECT_EQ(CommandLine::Parse({"--scale", "4"}).scale, 4.0);
+}
+
 }  // namespace
