@@ -20,6 +20,28 @@ constexpr double kReadable = 4.5;
 /// Of marks that are no text.
 constexpr double kSeen = 3.0;
 
+/// A worksheet of one cell, whose text is written in blue, as a mark beside a slider's range is.
+class BlueGrid : public BaseWorksheetInterface, private VWSRenderer {
+public:
+    BlueGrid() : BaseWorksheetInterface("Blue") {
+        SetSize(1, 1);
+        SetColumnWidth(1, 150);
+        SetCellValue(1, 1, "below the range");
+    }
+    const VWSRenderer* GetCellRenderer(int /*column*/, int /*row*/) const override { return this; }
+    bool UserChangedData(int /*column*/, int /*row*/, const char* /*text*/) override {
+        return false;
+    }
+
+private:
+    void DrawCell(CellCanvas& canvas, const BaseWorksheetInterface& worksheet, int column, int row,
+                  const CRect& rect) const override {
+        canvas.SetTextColour(0xFF0000);
+        canvas.SetBackgroundColour(0xFFFFFF);
+        canvas.PrintText(rect, worksheet.GetCellText(column, row), TextAlign::Left);
+    }
+};
+
 struct LookCase {
     const char* name;
     bool dark;
@@ -104,6 +126,12 @@ TEST_P(Looks, CellsCanBeReadOnEveryGround) {
                      << "marked, row " << cell.y;
              }
          }});
+}
+
+TEST_P(Looks, ColouredTextsCanBeReadWhateverGroundTheyWereMeantFor) {
+    BlueGrid blue;
+    Run({[&] { VirtualWorksheet::CreateFromStatic(page_, kCells, blue); },
+         [] { EXPECT_GE(StrongestContrast(Cell(1, 1)), kReadable); }});
 }
 
 TEST_P(Looks, GroundsOfCellsKeepToThePalette) {

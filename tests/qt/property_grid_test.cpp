@@ -147,8 +147,11 @@ TEST_F(PropertyGrids, ALongDescriptionLeavesTheRowsWhereTheyAre) {
     int before = 0;
     Run({[&] {
              Click("Count");
-             page_.Row(L"Red").SetDescription(std::wstring(900, L'x') + L" and " +
-                                              std::wstring(900, L'y'));
+             std::wstring description;
+             for (int i = 0; i < 300; ++i) {
+                 description += L"word ";
+             }
+             page_.Row(L"Red").SetDescription(description);
          },
          [&] {
              before = tree_->height();
