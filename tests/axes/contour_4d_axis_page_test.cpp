@@ -99,6 +99,18 @@ TEST_F(Contour4DAxisPageTest, CountsAllFactorsForTheConstantsWithAResponseFromOu
     EXPECT_TRUE(study.usedQuestions.empty());
 }
 
+TEST_F(Contour4DAxisPageTest, CountsEveryKindOfFactorForTheConstantsWithAResponseFromOutside) {
+    study.ExtraResponse("Outside", ResponseEx::External);
+    for (const char* name : {"B", "C", "D", "Speed", "Mass", "Colour", "Tint"}) {
+        study.RemoveFactor(name);
+    }
+    Show().OnSetActive();
+    EXPECT_EQ(Hint().substr(0, 21), "Click the Next-button");
+    study.RemoveFactor("A");
+    Show().OnSetActive();
+    EXPECT_EQ(Hint(), "There are no unused factors that can be held constant.");
+}
+
 TEST_F(Contour4DAxisPageTest, ShowsTheSwitchesThatItsTemplateShows) {
     const CDialog& dialog = Make(Plot::Process);
     for (const ControlTemplate& control : dialog.Template().Controls()) {

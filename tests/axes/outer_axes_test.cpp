@@ -126,6 +126,15 @@ TEST_P(OuterAxisRows, ShowStoredSettingsAsTheyAreAnEmptyTextToo) {
     EXPECT_EQ(SettingsText(1), "no colour;red;green;blue;grey");
 }
 
+TEST_P(OuterAxisRows, HoldTheStoredSettingsOfAFactorThatIsNoLongerOfferedBehindTheRow) {
+    study.unavailable = {"Colour"};
+    Store("Colour", "Speed", "grey;red");
+    Show(GetParam());
+    EXPECT_NE(Outer(0).Name(), "Colour");
+    EXPECT_EQ(Shown(0), "range");
+    EXPECT_EQ(SettingsText(0), "grey;red");
+}
+
 TEST_P(OuterAxisRows, ShowNoStoredSettingsOfANumber) {
     Store("Speed", kNone, "red", "green");
     Show(GetParam());
@@ -308,10 +317,11 @@ TEST_P(SettingsDialog, WritesToTheSecondAxisFromItsOwnButton) {
     EXPECT_EQ(SettingsText(1), "grey;blue");
 }
 
-TEST_P(SettingsDialog, TakesNoMoreThanThree) {
-    Store("Colour", kNone, "red;green;blue");
+TEST_P(SettingsDialog, TakesThreeAndNoMore) {
+    Store("Colour", kNone, "red;green");
     Show(GetParam());
     Press(0, [](CDialog& dialog) {
+        Move(Available(dialog), L"blue");
         Move(Available(dialog), L"grey");
         EXPECT_EQ(Entries(Selected(dialog)), (Texts{"red", "green", "blue"}));
     });
@@ -341,9 +351,30 @@ TEST_P(SettingsDialog, ChangesNothingUnlessItEndsWithOk) {
 }
 
 TEST_P(SettingsDialog, MarksThePageBeforeItWritesTheSettings) {
+    /// Views are told of a text before the page that it marks.
+    class View : public WindowListener {
+    public:
+        explicit View(const int& changes) : changes_(changes) {}
+        void OnWindowChanged(CWnd&, WindowChange change) override {
+            if (change == WindowChange::Text) {
+                changesThen.push_back(changes_);
+            }
+        }
+        void OnWindowGone(CWnd&) override {}
+        std::vector<int> changesThen;
+
+    private:
+        const int& changes_;
+    } view(changes);
     Store("Colour", kNone, "red");
     Show(GetParam());
-    Press(0, [](CDialog& dialog) { EXPECT_TRUE(dialog.UserOk()); });
+    Settings(0).AddListener(&view);
+    Press(0, [](CDialog& dialog) {
+        Move(Available(dialog), L"blue");
+        EXPECT_TRUE(dialog.UserOk());
+    });
+    Settings(0).RemoveListener(&view);
+    EXPECT_EQ(view.changesThen, std::vector<int>{1});
     EXPECT_EQ(changes, 2) << "once for the OK and once for the text";
 }
 
