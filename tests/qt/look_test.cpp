@@ -192,6 +192,11 @@ TEST_P(Looks, APageStandsInAFrameWithItsTab) {
         EXPECT_TRUE(left);
         EXPECT_TRUE(onRight);
         EXPECT_TRUE(below);
+        const QRect front = Front()->findChild<QTabBar*>()->tabRect(0);
+        const QPoint inTab(front.left() + 6, front.bottom() - 2);
+        const QPoint inPage = inTab + QPoint(0, 8);
+        EXPECT_LT(ContrastOf(picture.pixel(inTab), picture.pixel(inPage)), 1.03)
+            << "the tab in front is of one piece with its page";
     }});
 }
 

@@ -147,6 +147,8 @@ TEST_F(PropertyGrids, ALongDescriptionLeavesTheRowsWhereTheyAre) {
     int before = 0;
     Run({[&] {
              Click("Count");
+             // Room that the pane could take.
+             Front()->resize(Front()->width(), Front()->height() + 300);
              std::wstring description;
              for (int i = 0; i < 300; ++i) {
                  description += L"word ";
