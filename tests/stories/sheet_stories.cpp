@@ -20,15 +20,25 @@ namespace {
 using Type = ContourPageData::Type;
 using Axes = ContourPageData::AxisType;
 
+/// The plot whose sheet is opened.
+struct SheetPlot {
+    Type type = ContourPageData::contour_2D;
+    Axes axes = ContourPageData::process;
+    bool fromDesignSpace = false;
+};
+
 /// A new plot, as an application makes it.
-ContourPlotData NewPlot(StoryStage& stage, Type type, const std::string& iniFile) {
-    const bool isDesignSpace = type == ContourPageData::ds_probability;
-    return ContourPlotData(&stage.Study(), 0, iniFile, isDesignSpace, false, false, false);
+ContourPlotData NewPlot(StoryStage& stage, const SheetPlot& kind, const std::string& iniFile) {
+    const bool isDesignSpace = kind.type == ContourPageData::ds_probability;
+    return ContourPlotData(&stage.Study(), 0, iniFile, isDesignSpace, kind.fromDesignSpace, false,
+                           false);
 }
 
 /// Chooses the axes as a host does that asks nobody.
-void ChooseAxes(StoryStage& stage, Type type, bool isMixture, ContourPlotData& plot) {
+void ChooseAxes(StoryStage& stage, const SheetPlot& kind, ContourPlotData& plot) {
     const Investigation* study = &stage.Study();
+    const Type type = kind.type;
+    const bool isMixture = kind.axes == ContourPageData::mixture;
     switch (type) {
         case ContourPageData::contour_2D:
         case ContourPageData::surface_3D:
@@ -74,24 +84,25 @@ void AddConstants(StoryStage& stage, ContourPlotData& plot) {
     }
 }
 
-/// Opens the sheet of a plot that was saved before, and saves what it left.
-bool EditSavedPlot(StoryStage& stage, Type type, Axes axes, const std::function<void()>& draw) {
-    ContourPlotData made = NewPlot(stage, type, stage.IniFile());
-    ChooseAxes(stage, type, axes == ContourPageData::mixture, made);
+/// Opens the sheet of a plot that was saved before, and saves what it left. Without `draw` nobody
+/// draws what is applied.
+bool EditSavedPlot(StoryStage& stage, const SheetPlot& kind, const std::function<void()>& draw) {
+    ContourPlotData made = NewPlot(stage, kind, stage.IniFile());
+    ChooseAxes(stage, kind, made);
     AddConstants(stage, made);
-    SavePlot(stage, made, NewPlot(stage, type, ""), "plot.json");
+    SavePlot(stage, made, NewPlot(stage, kind, ""), "plot.json");
 
-    ContourPlotData plot = NewPlot(stage, type, stage.IniFile());
+    ContourPlotData plot = NewPlot(stage, kind, stage.IniFile());
     EXPECT_TRUE(LoadPlot(stage, made, "plot.json", plot));
     BasePropertyPageHelper helper;
     PlotListener listener(draw);
     listener.ConnectTo(&helper);
     CWnd window;
     window.SetText(L"Plot of the study");
-    const bool confirmed =
-        ShowContourSheet(&window, plot, &stage.Study(), plot.GetPlotConstants(), &helper, true);
+    const bool confirmed = ShowContourSheet(&window, plot, &stage.Study(), plot.GetPlotConstants(),
+                                            draw ? &helper : nullptr, true);
     stage.NoteResult(confirmed ? "confirmed" : "not confirmed");
-    SavePlot(stage, plot, NewPlot(stage, type, ""), "edited-plot.json");
+    SavePlot(stage, plot, NewPlot(stage, kind, ""), "edited-plot.json");
     return confirmed;
 }
 
@@ -101,12 +112,21 @@ void NoteDrawing() {
 
 template <Type type, Axes axes>
 void Confirm(StoryStage& stage) {
-    EXPECT_TRUE(EditSavedPlot(stage, type, axes, NoteDrawing));
+    EXPECT_TRUE(EditSavedPlot(stage, {type, axes}, NoteDrawing));
 }
 
-template <Type type, Axes axes>
+void ConfirmFromADesignSpace(StoryStage& stage) {
+    EXPECT_TRUE(EditSavedPlot(
+        stage, {ContourPageData::ds_probability, ContourPageData::process, true}, NoteDrawing));
+}
+
+void ConfirmUndrawn(StoryStage& stage) {
+    EXPECT_TRUE(EditSavedPlot(stage, {}, nullptr));
+}
+
 void Cancel(StoryStage& stage) {
-    EXPECT_FALSE(EditSavedPlot(stage, type, axes, NoteDrawing));
+    EXPECT_FALSE(EditSavedPlot(stage, {}, NoteDrawing));
+    EXPECT_EQ(stage.Bytes("study.ini"), "");
 }
 
 /// The analyst abandons the plot while it is drawn for the second time.
@@ -118,8 +138,7 @@ void Abandon(StoryStage& stage) {
             throw CancelException();
         }
     };
-    EXPECT_THROW(EditSavedPlot(stage, ContourPageData::contour_2D, ContourPageData::process, draw),
-                 CancelException);
+    EXPECT_THROW(EditSavedPlot(stage, {}, draw), CancelException);
     stage.NoteResult("abandoned");
     EXPECT_EQ(stage.Bytes("study.ini"), "");
     EXPECT_EQ(stage.Bytes("edited-plot.json"), "");
@@ -151,8 +170,10 @@ std::vector<Story> SheetStories() {
          Confirm<ContourPageData::ds_probability, process>},
         {"sheet_of_a_mixture_design_space", "vinyl-thickness-mixture-process",
          Confirm<ContourPageData::ds_probability, mixture>},
-        {"sheet_cancelled", "tire-tread-ccd-4-responses",
-         Cancel<ContourPageData::contour_2D, process>},
+        {"sheet_of_a_design_space_with_given_constants", "tire-tread-ccd-4-responses",
+         ConfirmFromADesignSpace},
+        {"sheet_without_a_drawing", "tire-tread-ccd-4-responses", ConfirmUndrawn},
+        {"sheet_cancelled", "tire-tread-ccd-4-responses", Cancel},
         {"sheet_abandoned", "tire-tread-ccd-4-responses", Abandon},
     };
 }
