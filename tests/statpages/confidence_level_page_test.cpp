@@ -34,6 +34,16 @@ TEST_F(ConfidenceLevelPageTest, StandsOnItsTemplate) {
     EXPECT_FALSE(page->IsChanged());
 }
 
+TEST_F(ConfidenceLevelPageTest, IsReadyWhateverItShows) {
+    for (const int value : {1, 2, 3}) {
+        type = static_cast<CIntervalType::IntervalType>(value);
+        ShowPage();
+        EXPECT_TRUE(page->OnInitDialog());
+    }
+    ShowLevelAlone(false);
+    EXPECT_TRUE(page->OnInitDialog());
+}
+
 TEST_F(ConfidenceLevelPageTest, OffersWhatItsTemplateHolds) {
     CDialog dialog(6155, nullptr);
     dialog.Create();
@@ -175,6 +185,12 @@ TEST_F(ConfidenceLevelPageTest, CanBeMarkedBeforeItHasAWindow) {
     EXPECT_TRUE(bare.OnApply());
     EXPECT_EQ(level, CConfLev::Level99);
     EXPECT_EQ(type, CIntervalType::Prediction);
+    ShowPage();
+    page->DestroyWindow();
+    type = CIntervalType::None;
+    page->Changed();
+    EXPECT_TRUE(page->OnApply());
+    EXPECT_EQ(type, CIntervalType::None) << "nothing is read of a window that is gone";
 }
 
 // Applying.

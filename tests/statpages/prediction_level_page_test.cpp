@@ -27,6 +27,11 @@ TEST_F(PredictionLevelPageTest, StandsOnItsTemplate) {
     EXPECT_FALSE(page->IsChanged());
 }
 
+TEST_F(PredictionLevelPageTest, IsReadyWhateverItShows) {
+    ShowPage();
+    EXPECT_TRUE(page->OnInitDialog());
+}
+
 TEST_F(PredictionLevelPageTest, OffersWhatItsTemplateHolds) {
     CDialog dialog(6230, nullptr);
     dialog.Create();
