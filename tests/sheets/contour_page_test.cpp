@@ -62,6 +62,21 @@ TEST_F(ContourPageTest, IsTheFirstPageOfTheWizard) {
     EXPECT_EQ(Page().GetPropertyPageHelper(), &helper);
 }
 
+TEST_F(ContourPageTest, BearsItsLabelsWithTheirMnemonics) {
+    MakeData();
+    Show();
+    for (const auto& [number, label] : {std::pair{6096, "&Contour"},
+                                        {6097, "&4D contour"},
+                                        {6126, "&Surface"},
+                                        {6127, "4&D surface"},
+                                        {6115, "&Process"},
+                                        {6105, "&Mixture"},
+                                        {6024, "&Use constraints"},
+                                        {6014, "Plot &options..."}}) {
+        EXPECT_STREQ(Page().Button(number).Template().label, label);
+    }
+}
+
 TEST_F(ContourPageTest, SelectsTheResponsesWithALimitForADesignSpace) {
     AddResponses(5);
     study.Response("Low").lowLimit = 1.0;

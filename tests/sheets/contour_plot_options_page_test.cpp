@@ -48,6 +48,13 @@ TEST_F(ContourPlotOptionsPageTest, StandsOnTheTemplateItIsGiven) {
     EXPECT_EQ(page->TemplateNumber(), 6213);
 }
 
+TEST_F(ContourPlotOptionsPageTest, BearsItsLabelsWithTheirMnemonics) {
+    Show();
+    EXPECT_STREQ(Check(6022).Template().label, "Use &color");
+    EXPECT_STREQ(Check(6027).Template().label, "Show contour &level labels");
+    EXPECT_STREQ(Check(6223).Template().label, "Lock contour levels");
+}
+
 TEST_F(ContourPlotOptionsPageTest, OffersDoublesFromSixteenForAProcess) {
     Show();
     EXPECT_THAT(Entries(), ElementsAre("16", "32", "64", "128", "256"));
