@@ -1,6 +1,5 @@
 // One line for each class with a ReadSection; tests/fuzz tells when one is missing.
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -59,21 +58,22 @@ void ReadResponses(const ConfigurationSection& section) {
 
 // What was read can be written and read again, or is told to be no plot.
 void ReadContourPlot(const ConfigurationSection& section, bool isDesignSpace) {
-    const auto fresh = [isDesignSpace] {
-        return std::make_unique<ContourPlotData>(&Study(), 8, "", isDesignSpace, isDesignSpace,
-                                                 false, false);
-    };
-    const std::unique_ptr<ContourPlotData> plot = fresh();
+    // Copies are made faster than plots.
+    static const ContourPlotData ordinary(&Study(), 8, "", false, false, false, false);
+    static const ContourPlotData designSpace(&Study(), 8, "", true, true, false, false);
+    const ContourPlotData& fresh = isDesignSpace ? designSpace : ordinary;
+    ContourPlotData plot(fresh);
     ConfigurationStore store;
     try {
-        if (!plot->ReadSection(&section)) {
+        if (!plot.ReadSection(&section)) {
             return;
         }
-        plot->WriteSection(store.Root().get());
+        plot.WriteSection(store.Root().get());
     } catch (const InvalidArgument&) {
         return;
     }
-    Require(fresh()->ReadSection(store.Root().get()), "a contour plot is not read back");
+    Require(ContourPlotData(fresh).ReadSection(store.Root().get()),
+            "a contour plot is not read back");
 }
 
 class AnyPlotData : public WizardPlotData {
@@ -83,19 +83,24 @@ public:
 };
 
 void ReadAnyPlot(const ConfigurationSection& section) {
+    static const AnyPlotData fresh;
+    AnyPlotData plot(fresh);
     for (int type = 0; type <= 4; ++type) {
-        AnyPlotData().ReadSection(&section, static_cast<WizardPlotData::PlotAxisType>(type), 1, 5);
+        plot.ReadSection(&section, static_cast<WizardPlotData::PlotAxisType>(type), 1, 5);
     }
 }
 
 void ReadSweetSpot(const ConfigurationSection& section, bool isMixture) {
-    SweetSpotData plot(&Study(), isMixture, "");
+    static const SweetSpotData process(&Study(), false, "");
+    static const SweetSpotData mixture(&Study(), true, "");
+    const SweetSpotData& fresh = isMixture ? mixture : process;
+    SweetSpotData plot(fresh);
     if (!plot.ReadSection(&section)) {
         return;
     }
     ConfigurationStore store;
     plot.WriteSection(store.Root().get());
-    Require(SweetSpotData(&Study(), isMixture, "").ReadSection(store.Root().get()),
+    Require(SweetSpotData(fresh).ReadSection(store.Root().get()),
             "a sweet spot plot is not read back");
 }
 

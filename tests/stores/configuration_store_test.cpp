@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <bit>
 #include <cmath>
@@ -234,6 +235,9 @@ TEST(ConfigurationStore, LoadSaysWhatCannotBeRead) {
     const test::TemporaryFolder folder;
     EXPECT_THROW(ConfigurationStore::Load(folder.File("missing.json")), FileError);
     EXPECT_THROW(ConfigurationStore::Load(folder.Path()), FileError);
+    ASSERT_EQ(::mkfifo(folder.File("pipe.json").c_str(), 0600), 0);
+    EXPECT_THROW(ConfigurationStore::Load(folder.File("pipe.json")), FileError)
+        << "without waiting for somebody to write into it";
     test::Spill(folder.File("bad.json"), "{");
     EXPECT_THROW(ConfigurationStore::Load(folder.File("bad.json")), FileFormatError);
     EXPECT_EQ(test::Slurp(folder.File("bad.json")), "{");
