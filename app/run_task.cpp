@@ -42,17 +42,6 @@ private:
     std::shared_ptr<kvopt::Registry> registry_;
 };
 
-/// The study is the active one for as long as this lives.
-class ActiveStudy {
-public:
-    explicit ActiveStudy(kvopt::ReferenceStudy& study) {
-        kvopt::Investigation::SetActiveInvestigation(&study);
-    }
-    ~ActiveStudy() { kvopt::Investigation::SetActiveInvestigation(nullptr); }
-    ActiveStudy(const ActiveStudy&) = delete;
-    ActiveStudy& operator=(const ActiveStudy&) = delete;
-};
-
 void WriteText(const std::string& fileName, const std::string& text) {
     std::ofstream file(fileName, std::ios::binary);
     file << text;
@@ -124,7 +113,7 @@ int RunTask(const CommandLine& command, std::ostream& out, std::ostream& faults)
     const auto study = kvopt::LoadStudy(command.study);
     study->SetIniFileName(files.ini);
     const UserStores stores(files);
-    const ActiveStudy active(*study);
+    kvopt::Investigation::SetActiveInvestigation(study.get());  // until it dies
 
     const auto desktop = RoadDesktop::Make(command);
     const RoadResult result = road.go({*study, nullptr, command.plot});

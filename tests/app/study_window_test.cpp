@@ -238,6 +238,9 @@ TEST_F(StudyWindowTest, TellsTheErrorOfAMalformedStudyAndOpensTheOthers) {
     Find<QListWidget>(window, "studies").setCurrentRow(1);
     EXPECT_EQ(Message(window), "");
     EXPECT_EQ(Find<QTableWidget>(window, "factors").rowCount(), 3);
+    EXPECT_TRUE(Find<QPushButton>(window, "contour").isEnabled());
+    Find<QListWidget>(window, "studies").setCurrentRow(0);
+    EXPECT_FALSE(Find<QPushButton>(window, "contour").isEnabled()) << "that study is closed";
 }
 
 TEST_F(StudyWindowTest, TellsTheErrorOfAMalformedPlotAndKeepsItsFile) {
