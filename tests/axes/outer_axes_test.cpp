@@ -204,6 +204,15 @@ TEST_P(OuterAxisRows, LeaveTheSettingsOfAnAxisThatWasEmptied) {
     EXPECT_EQ(Stored(1).GetSettings(), "grey");
 }
 
+TEST_P(OuterAxisRows, WriteNoSettingsOfAnEmptyAxisWhateverAFactorIsCalled) {
+    study.Names(kNone);
+    Store(kNone, kNone, "grey", "grey");
+    Show(GetParam());
+    Settings(0).SetText(L"red");
+    page->TransferFromPage();
+    EXPECT_EQ(Stored(0).GetSettings(), "grey");
+}
+
 TEST_P(OuterAxisRows, PassOverAxesThatTheSetLacks) {
     Show(GetParam(), "Colour", "Tint");
     axes.resize(axes.size() - 1);
