@@ -226,9 +226,12 @@ TEST_F(SweetSpotDataTest, KeepsBothResolutionsInTheProfile) {
 
 TEST_F(SweetSpotDataTest, KeepsTheResolutionsThatTheProfileLacks) {
     SweetSpotData plot = Plot();
-    plot.SetResolution(7);
-    plot.ReadRegistrySettings();
-    EXPECT_EQ(plot.GetResolution(), 7);
+    for (const auto type : {SweetSpotData::SweetSpot, SweetSpotData::SweetSpot4D}) {
+        plot.SetPlotType(type);
+        plot.SetResolution(7);
+        plot.ReadRegistrySettings();
+        EXPECT_EQ(plot.GetResolution(), 7);
+    }
 }
 
 // Copies.
