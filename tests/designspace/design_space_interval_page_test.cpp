@@ -44,6 +44,7 @@ TEST_F(DesignSpaceIntervalPageTest, StandsOnTheTemplateOfItsBase) {
     Show();
     EXPECT_EQ(page->TemplateNumber(), 6230);
     EXPECT_EQ(page->HelpTopicID(), 226U);
+    EXPECT_EQ(page->Caption(), L"Interval estimation");
     EXPECT_FALSE(page->IsChanged());
     EXPECT_EQ(Interval().GetCount(), 3) << "there is no way to choose no interval";
     EXPECT_TRUE(page->GetDlgItem(6351)->IsVisible());

@@ -10,6 +10,7 @@
 
 #include "axes/page_probe.h"
 #include "axes/sheet_desktop.h"
+#include "designspace/opening_order.h"
 #include "designspace/risk_settings.h"
 #include "support/fake_study.h"
 
@@ -129,6 +130,17 @@ TEST_F(DesignSpacePageTest, ShowsAnyConfidenceBut95As99) {
         Show();
         EXPECT_EQ(Button(k95).GetCheck(), confidence == 95) << confidence;
         EXPECT_EQ(Button(k99).GetCheck(), confidence != 95) << confidence;
+    }
+}
+
+TEST_F(DesignSpacePageTest, WritesItsControlsInOneOrder) {
+    for (const int presentation : {0, 1}) {
+        risk.Show(presentation);
+        OpeningOrder<DesignSpacePage> opened(&study, options, nullptr);
+        opened.Create();
+        EXPECT_TRUE(opened.answer);
+        EXPECT_THAT(opened.written, ElementsAre(6245, kProfiles, kRanges, kModelError, kLimit,
+                                                kAutomatic, kTotal, kMinMax, k95));
     }
 }
 
@@ -252,6 +264,13 @@ TEST_F(DesignSpacePageTest, StoresWhatItShowsAndRemembersIt) {
     expected.whatToUpdate = DesignSpaceOptions::UpdateAll;
     EXPECT_EQ(options, expected);
     EXPECT_FALSE(page->IsChanged());
+}
+
+TEST_F(DesignSpacePageTest, Stores99WhereNeitherConfidenceIsMarked) {
+    Show();
+    Button(k95).SetCheck(false);
+    EXPECT_TRUE(page->OnApply());
+    EXPECT_EQ(options.limitConfidence, 99);
 }
 
 TEST_F(DesignSpacePageTest, TellsOfEachDifferenceWhatIsToBeUpdated) {

@@ -1,8 +1,10 @@
 #include "kvopt/designspace/ds_contour_plot_options_page.h"
 
 #include <ostream>
+#include <utility>
 
 #include "axes/page_probe.h"
+#include "designspace/opening_order.h"
 #include "designspace/risk_settings.h"
 #include "sheets/contour_test.h"
 
@@ -19,6 +21,23 @@ constexpr int kSimulations = 6272;
 constexpr int kModelError = 6284;
 constexpr int kAnalytical = 6296;
 constexpr int kLimit = 6327;
+
+/// The page's template with another layout, while this lives.
+class OtherLayout {
+public:
+    explicit OtherLayout(LayoutItem layout)
+        : dialog_(const_cast<DialogTemplate&>(*TemplateCatalog::Instance().Find(6221))),
+          former_(dialog_.layout) {
+        dialog_.layout = std::move(layout);
+    }
+    ~OtherLayout() { dialog_.layout = former_; }
+    OtherLayout(const OtherLayout&) = delete;
+    OtherLayout& operator=(const OtherLayout&) = delete;
+
+private:
+    DialogTemplate& dialog_;
+    LayoutItem former_;
+};
 
 class DSContourPlotOptionsPageTest : public ContourTest {
 protected:
@@ -144,6 +163,20 @@ TEST_F(DSContourPlotOptionsPageTest, ShowsTheSimulationOfAProbabilityPlot) {
     Show();
     EXPECT_EQ(Text(kSimulations), "");
     EXPECT_FALSE(Check(kModelError).GetCheck());
+}
+
+TEST_F(DSContourPlotOptionsPageTest, WritesItsControlsInOneOrder) {
+    Options().useColor = true;
+    Options().useContourLabels = true;
+    Options().includeModelError = true;
+    for (const int presentation : {0, 1}) {
+        risk.Show(presentation);
+        OpeningOrder<DSContourPlotOptionsPage> opened(&study, PageData(), nullptr);
+        opened.Create();
+        EXPECT_TRUE(opened.answer);
+        EXPECT_THAT(opened.written, ElementsAre(kResolution, kColor, kLabels, kSimulations,
+                                                kModelError, 6343, kLimit));
+    }
 }
 
 TEST_F(DSContourPlotOptionsPageTest, ShowsTheLimitInPercent) {
@@ -336,6 +369,35 @@ TEST_F(DSContourPlotOptionsPageTest, KeepsTheSimulationOfAPlotWithoutProbabiliti
     EXPECT_TRUE(Options().includeModelError);
     EXPECT_TRUE(Options().analyticalProbability);
     EXPECT_EQ(Options().dpmoTarget, 30000);
+}
+
+TEST_F(DSContourPlotOptionsPageTest, StoresTheLockOnlyWhereItsTemplateHasTheBox) {
+    const OtherLayout lock(layout::Column(
+        {TemplateCatalog::Instance().Find(6221)->layout, layout::Check(6223, "Lock")}));
+    Options().lockContourLevels = true;
+    Show();
+    EXPECT_FALSE(Check(6223).GetCheck()) << "it is stored but not shown";
+    EXPECT_TRUE(page->OnApply());
+    EXPECT_FALSE(Options().lockContourLevels);
+    EXPECT_TRUE(Check(6223).UserClick());
+    EXPECT_TRUE(page->IsChanged());
+    EXPECT_TRUE(page->OnApply());
+    EXPECT_TRUE(Options().lockContourLevels);
+}
+
+TEST_F(DSContourPlotOptionsPageTest, KeepsColorsAndLabelsWhereItsTemplateLacksTheBoxes) {
+    const OtherLayout bare(layout::Column(
+        {layout::ComboEdit(kResolution), layout::Edit(kSimulations), layout::Label(6343, ""),
+         layout::RangeEdit(kLimit), layout::Check(kModelError, "Error"),
+         layout::Check(kAnalytical, "Analytical").Hidden()}));
+    for (const bool on : {true, false}) {
+        Options().useColor = on;
+        Options().useContourLabels = !on;
+        Show();
+        EXPECT_TRUE(page->OnApply());
+        EXPECT_EQ(Options().useColor, on);
+        EXPECT_EQ(Options().useContourLabels, !on);
+    }
 }
 
 TEST_F(DSContourPlotOptionsPageTest, LosesADpmoThatFloatCannotHoldOnAnUntouchedApply) {

@@ -105,6 +105,22 @@ private:
     Page& page_;
 };
 
+/// Notes what the profile holds as something of the page changes.
+class ProfileView : public WindowListener {
+public:
+    void OnWindowChanged(CWnd& /*window*/, WindowChange change) override {
+        const int stored =
+            UserProfile::Instance()->GetProfileInteger("Settings", "GeneralOptionsShowDetails", -1);
+        if (change == WindowChange::Pane) {
+            seen.push_back("pane " + std::to_string(stored));
+        } else if (change == WindowChange::Check) {
+            seen.push_back("check " + std::to_string(stored));
+        }
+    }
+    void OnWindowGone(CWnd& /*window*/) override {}
+    std::vector<std::string> seen;
+};
+
 template <class Base>
 class GridPages : public PlatformTest {
 protected:
@@ -141,6 +157,14 @@ TYPED_TEST(GridPages, HaveTheirTemplateAndNoCaptionNumber) {
     EXPECT_EQ(this->page.GetDlgItem(kHeader), this->page.Header());
     EXPECT_EQ(this->page.GetDlgItem(kDetails)->GetText(), L"Show details");
     EXPECT_EQ(this->page.GetDlgItem(kReset)->GetText(), L"Reset");
+}
+
+TYPED_TEST(GridPages, HoldTheirPlacesInTheirTemplate) {
+    CDialog dialog(this->page.TemplateNumber(), nullptr);
+    dialog.Create();
+    EXPECT_EQ(dialog.GetDlgItem(kGrid)->GetText(), L"[ Placeholder for propertygrid ]");
+    EXPECT_EQ(dialog.GetDlgItem(kHeader)->GetText(), L"[Placeholder for a markup static]");
+    EXPECT_EQ(dialog.Controls().size(), 4U);
 }
 
 TYPED_TEST(GridPages, OpenInTheirOrder) {
@@ -220,6 +244,17 @@ TYPED_TEST(GridPages, RememberAtOnceThatDetailsAreShown) {
     EXPECT_TRUE(this->page.Grid()->IsHelpVisible());
     EXPECT_TRUE(this->Details().GetCheck());
     EXPECT_EQ(this->Profile(), 1);
+}
+
+TYPED_TEST(GridPages, SwitchTheirPaneThenRememberItThenPressTheButton) {
+    this->page.Create();
+    ProfileView view;
+    this->page.Grid()->AddListener(&view);
+    this->Details().AddListener(&view);
+    this->page.OnBnShowDetails();
+    EXPECT_THAT(view.seen, ElementsAre("pane -1", "check 0"));
+    this->page.Grid()->RemoveListener(&view);
+    this->Details().RemoveListener(&view);
 }
 
 TYPED_TEST(GridPages, LeaveTheRememberedNumberAsItWasWhenDetailsAreSwitchedTwice) {

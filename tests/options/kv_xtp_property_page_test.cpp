@@ -12,10 +12,35 @@ class CountingHelper : public BasePropertyPageHelper {
 public:
     bool Update() override {
         ++updates;
+        Desktop::Instance().Note("update");
         return answer && BasePropertyPageHelper::Update();
     }
     int updates = 0;
     bool answer = true;
+};
+
+/// Notes what stands behind the sheet's Apply as it lights up and goes out.
+class ApplyView : public WindowListener {
+public:
+    ApplyView(KvPropertySheet& sheet, const KvXtpPropertyPage& page,
+              const BasePropertyPageHelper& helper)
+        : sheet_(sheet), page_(page), helper_(helper) {
+        sheet_.AddListener(this);
+    }
+    ~ApplyView() override { sheet_.RemoveListener(this); }
+    void OnWindowChanged(CWnd& /*window*/, WindowChange change) override {
+        if (change == WindowChange::Buttons) {
+            seen.push_back(std::string(page_.IsChanged() ? "dirty " : "clean ") +
+                           std::to_string(helper_.UpdateCount()));
+        }
+    }
+    void OnWindowGone(CWnd& /*window*/) override {}
+    std::vector<std::string> seen;
+
+private:
+    KvPropertySheet& sheet_;
+    const KvXtpPropertyPage& page_;
+    const BasePropertyPageHelper& helper_;
 };
 
 class XtpPage : public KvXtpPropertyPage {
@@ -73,7 +98,7 @@ TEST_F(TheXtpPage, RunsTheUpdateOfAConnectedHelperWhenDirty) {
     page.Changed();
     EXPECT_TRUE(page.OnApply());
     EXPECT_EQ(helper.updates, 1);
-    EXPECT_THAT(Log(), IsEmpty()) << "no OnOK";
+    EXPECT_THAT(Log(), ElementsAre("update")) << "no OnOK";
     EXPECT_FALSE(page.IsChanged());
     EXPECT_EQ(helper.UpdateCount(), 0);
 }
@@ -103,6 +128,40 @@ TEST_F(TheXtpPage, ReachesOnOkWhenCleanUnderTheWaitCursor) {
     EXPECT_THAT(desktop.log.Lines(), ElementsAre("cursor wait", "page.OnOK", "cursor arrow"));
     EXPECT_EQ(helper.updates, 0);
     EXPECT_EQ(helper.UpdateCount(), 0);
+}
+
+TEST_F(TheXtpPage, ShowsTheWaitCursorUntilItIsClean) {
+    class Noting : public XtpPage {
+    public:
+        using XtpPage::XtpPage;
+        void Unchanged() override {
+            Desktop::Instance().Note("page.Unchanged");
+            XtpPage::Unchanged();
+        }
+    } noting(&helper);
+    noting.Changed();
+    desktop.log.Clear();
+    EXPECT_TRUE(noting.OnApply());
+    EXPECT_THAT(desktop.log.Lines(),
+                ElementsAre("cursor wait", "update", "page.Unchanged", "cursor arrow"));
+    helper.answer = false;
+    noting.Changed();
+    desktop.log.Clear();
+    EXPECT_FALSE(noting.OnApply());
+    EXPECT_THAT(desktop.log.Lines(), ElementsAre("cursor wait", "update", "cursor arrow"));
+}
+
+TEST_F(TheXtpPage, TellsItsHelperBeforeTheApplyButton) {
+    KvPropertySheet sheet(L"Sheet", nullptr, 0);
+    sheet.AddPage(&page);
+    sheet.SetHasApply(true);
+    desktop.steps = {[&] {
+        const ApplyView view(sheet, page, helper);
+        page.Changed();
+        page.Unchanged();
+        EXPECT_THAT(view.seen, ElementsAre("dirty 1", "clean 0"));
+    }};
+    sheet.DoModal();
 }
 
 TEST_F(TheXtpPage, ReachesOnOkWithoutHelper) {
@@ -166,7 +225,7 @@ TEST_F(TheXtpPage, StandsInASheetBesideTheOtherKind) {
                      },
                      [&] { EXPECT_TRUE(sheet.UserOk()); }};
     EXPECT_EQ(sheet.DoModal(), kResultOk);
-    EXPECT_THAT(Log(), ElementsAre("other.OnKillActive", "other.OnApply", "other.OnOK",
+    EXPECT_THAT(Log(), ElementsAre("other.OnKillActive", "update", "other.OnApply", "other.OnOK",
                                    "other.OnDestroyWindow", "end 1"));
     EXPECT_EQ(helper.updates, 1) << "the dirty page updated";
 }

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <type_traits>
+
 #include "plotargs/plot_study.h"
 #include "support/plot_compare.h"
 #include "support/recording_section.h"
@@ -32,6 +34,8 @@ protected:
 };
 
 TEST_F(ReportOverRideOptionsTest, IsOneObjectThatClearEmpties) {
+    EXPECT_FALSE(std::is_default_constructible_v<ReportOverRideOptions>);
+    EXPECT_FALSE(std::is_destructible_v<ReportOverRideOptions>);
     EXPECT_EQ(ReportOverRideOptions::Instance(), &options);
     options.GetAxes()[1] = Axis("A", 1, 2);
     options.GetConstants()["A"] = Constant("A", 1.0, FactorConstants::LOW);

@@ -398,6 +398,25 @@ TEST_F(SweetSpotDataTest, AsksADerivedClassForConstantsWhenTheFormChanges) {
     EXPECT_EQ(plot.asked, 1);
 }
 
+TEST_F(SweetSpotDataTest, TakesTheFormThenWalksThenAsksForConstants) {
+    AddFactors();
+    class Derived : public SweetSpotData {
+    public:
+        explicit Derived(LookedUpStudy* study)
+            : SweetSpotData(study, false, "study.ini"), study_(*study) {}
+        void InitConstInfo() override { seen = study_.lookedUp; }
+        std::vector<std::string> seen;
+
+    private:
+        const LookedUpStudy& study_;
+    };
+    const FixedOrder order;
+    Derived plot(&study);
+    study.lookedUp.clear();
+    plot.SetMixture(true);
+    EXPECT_THAT(plot.seen, ElementsAre("A", "B", "Cat", "M1", "M2", "M3"));
+}
+
 TEST_F(SweetSpotDataTest, HoldsARandomBlockEffectAtRandom) {
     study.Block(3);
     for (const bool fixed : {true, false}) {
