@@ -91,6 +91,15 @@ TEST_P(OuterAxisRows, LeaveTheOtherOuterAxisAlone) {
     EXPECT_EQ(SettingsText(1), "grey");
 }
 
+TEST_P(OuterAxisRows, KeepTheirSettingsWhenAnInnerAxisIsPutBackToItsDefault) {
+    Show(GetParam(), "Colour", "Tint");
+    for (int axis = 1; axis < first; ++axis) {
+        EXPECT_TRUE(Row(axis).button.UserClick());
+        EXPECT_EQ(Shown(0), "settings") << axis;
+        EXPECT_EQ(Shown(1), "settings") << axis;
+    }
+}
+
 TEST_P(OuterAxisRows, CanAlwaysBeLeftEmptyUnlikeTheInnerOnes) {
     Show(GetParam(), "Speed", "Mass");
     for (int axis = 1; axis < first; ++axis) {
