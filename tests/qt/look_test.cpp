@@ -233,6 +233,14 @@ TEST(QtLook, DarkPaletteHasReadableTextsInEveryState) {
     }
 }
 
+// The style frames an empty box darker than the window, so nothing but its ground shows it.
+TEST(QtLook, DarkPaletteShowsWhereAnEmptyBoxIs) {
+    const QPalette palette = QtLook::DarkPalette();
+    EXPECT_GE(
+        ContrastOf(palette.color(QPalette::Base).rgb(), palette.color(QPalette::Window).rgb()),
+        1.7);
+}
+
 }  // namespace
 
 }  // namespace kvopt::test
