@@ -156,6 +156,8 @@ std::vector<Story> SheetStories() {
          Confirm<ContourPageData::contour_2D, mixture>},
         {"sheet_of_a_contour_with_outer_axes", "sonoluminescence-2-7-3",
          Confirm<ContourPageData::contour_4D, process>},
+        {"sheet_of_a_contour_of_settings", "rubber-cure-lab-mix-temperature",
+         Confirm<ContourPageData::contour_4D, process>},
         {"sheet_of_a_mixture_contour_with_outer_axes", "vinyl-thickness-mixture-process",
          Confirm<ContourPageData::contour_4D, mixture>},
         {"sheet_of_a_surface", "paper-helicopter-ccd-blocked",
