@@ -162,15 +162,16 @@ void PropertyGridEditors::Place() {
 }
 
 bool PropertyGridEditors::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == list_) {
+    // By kind first: a widget whose destructor runs is still watched, but is neither any more.
+    if (qobject_cast<QComboBox*>(watched) != nullptr) {
         // A wheel over the grid scrolls it; it must not change a choice in passing.
-        if (event->type() == QEvent::Wheel) {
+        if (watched == list_ && event->type() == QEvent::Wheel) {
             QCoreApplication::sendEvent(tree_.viewport(), event);
             return true;
         }
         return false;
     }
-    if (watched != editor_) {
+    if (qobject_cast<QLineEdit*>(watched) == nullptr || watched != editor_) {
         return false;
     }
     if (event->type() == QEvent::FocusOut) {

@@ -15,6 +15,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using namespace std::string_literals;
 
 class Recovery : public testing::Test {
 protected:
@@ -34,27 +35,28 @@ class DamagedIniFile : public testing::TestWithParam<DamagedIni> {};
 
 INSTANTIATE_TEST_SUITE_P(
     Stores, DamagedIniFile,
-    testing::Values(
-        DamagedIni{"ALineThatIsNoKey", "Top=1\n[A]\nKey=1\nno key\nLast=2\n[B]\nKey=3\n",
-                   "Top=1\n[A]\nKey=1\nLast=2\n[B]\nKey=3\n"},
-        DamagedIni{"CommentsStay", "; one\nTop=1\n\n# two\n[A]\n; three\nKey=1\nno key\n; end\n",
-                   "; one\nTop=1\n\n# two\n[A]\n; three\nKey=1\n; end\n"},
-        DamagedIni{"ItsOwnCommentGoesWithIt",
-                   "Top=1\n; of the bad line\nno key\n; of Last\nLast=2\n",
-                   "Top=1\n; of Last\nLast=2\n"},
-        DamagedIni{"KeysBelowABadHeaderAreOfNoSection",
-                   "[A]\nKey=1\n[B\nKey=2\n; mine\n[C]\nKey=3\n",
-                   "[A]\nKey=1\n; mine\n[C]\nKey=3\n"},
-        DamagedIni{"AHeaderThatIsBadAtItsEndMakesNoSection", "[A][B][C;0]\nKey=1\n[D]\nKey=2\n",
-                   "[D]\nKey=2\n"},
-        DamagedIni{"ANulInAHeader", std::string("[A]\nKey=1\n[\0]\nKey=2\n[C]\nKey=3\n", 33),
-                   "[A]\nKey=1\n[C]\nKey=3\n"},
-        DamagedIni{"ANulInAKey", std::string("[A]\nKey\0=1\nLast=2\n", 18), "[A]\nLast=2\n"},
-        DamagedIni{"ZerosAtTheEnd", "[A]\nKey=1\nLast=2\n" + std::string(4096, '\0'),
-                   "[A]\nKey=1\nLast=2\n"},
-        DamagedIni{"CutInAHeader", "[A]\nKey=1\n[Spe", "[A]\nKey=1\n"},
-        DamagedIni{"CutInAKey", "[A]\nKey=1\nLas", "[A]\nKey=1\n"},
-        DamagedIni{"NothingAtAll", "%PDF\n\x01\x02\x03\n", ""}),
+    testing::Values(DamagedIni{"ALineThatIsNoKey",
+                               "Top=1\n[A]\nKey=1\nno key\nLast=2\n[B]\nKey=3\n",
+                               "Top=1\n[A]\nKey=1\nLast=2\n[B]\nKey=3\n"},
+                    DamagedIni{"CommentsStay",
+                               "; one\nTop=1\n\n# two\n[A]\n; three\nKey=1\nno key\n; end\n",
+                               "; one\nTop=1\n\n# two\n[A]\n; three\nKey=1\n; end\n"},
+                    DamagedIni{"ItsOwnCommentGoesWithIt",
+                               "Top=1\n; of the bad line\nno key\n; of Last\nLast=2\n",
+                               "Top=1\n; of Last\nLast=2\n"},
+                    DamagedIni{"KeysBelowABadHeaderAreOfNoSection",
+                               "[A]\nKey=1\n[B\nKey=2\n; mine\n[C]\nKey=3\n",
+                               "[A]\nKey=1\n; mine\n[C]\nKey=3\n"},
+                    DamagedIni{"AHeaderThatIsBadAtItsEndMakesNoSection",
+                               "[A][B][C;0]\nKey=1\n[D]\nKey=2\n", "[D]\nKey=2\n"},
+                    DamagedIni{"ANulInAHeader", "[A]\nKey=1\n[\0]\nKey=2\n[C]\nKey=3\n"s,
+                               "[A]\nKey=1\n[C]\nKey=3\n"},
+                    DamagedIni{"ANulInAKey", "[A]\nKey\0=1\nLast=2\n"s, "[A]\nLast=2\n"},
+                    DamagedIni{"ZerosAtTheEnd", "[A]\nKey=1\nLast=2\n" + std::string(4096, '\0'),
+                               "[A]\nKey=1\nLast=2\n"},
+                    DamagedIni{"CutInAHeader", "[A]\nKey=1\n[Spe", "[A]\nKey=1\n"},
+                    DamagedIni{"CutInAKey", "[A]\nKey=1\nLas", "[A]\nKey=1\n"},
+                    DamagedIni{"NothingAtAll", "%PDF\n\x01\x02\x03\n", ""}),
     [](const testing::TestParamInfo<DamagedIni>& row) { return std::string(row.param.label); });
 
 TEST_P(DamagedIniFile, GoesOnWithWhatCouldBeRead) {
