@@ -106,7 +106,8 @@ void PrintTo(const HintRow& row, std::ostream* out) {
 }
 
 TEST_P(Axes4DHint, SaysWhetherAFactorIsLeftForTheConstants) {
-    const auto& [plot, row] = GetParam();
+    const Plot plot = std::get<Plot>(GetParam());
+    const HintRow& row = std::get<HintRow>(GetParam());
     const int axesInUse = (plot == Plot::Process ? 2 : 3) + row.outerAxes;
     for (const int used : {axesInUse - 1, axesInUse, axesInUse + 1}) {
         study.usedFactors = used;
