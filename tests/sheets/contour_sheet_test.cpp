@@ -162,7 +162,7 @@ TEST_F(ContourSheetTest, TakesAsManyResponsesAsTheTypeAllows) {
     const std::pair<int, int> rows[] = {{0, 5}, {1, 1}, {2, 5}, {3, 1}, {4, 5}, {9, 5}};
     for (const auto& [type, most] : rows) {
         MakePlot(type, false);
-        Look([&, most = most](const CPropertySheet& sheet) {
+        Look([&, type = type, most = most](const CPropertySheet& sheet) {
             const auto& page = dynamic_cast<MultipleResponsePage&>(*sheet.GetPage(0));
             EXPECT_EQ(page.MaxSelections(), most) << type;
         });
