@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+namespace kvopt::bench {
+
+/// A folder for the files of one benchmark, gone with this object. It lies in the folder that
+/// KVOPT_BENCH_FOLDER names, else in the one for temporary files, which may be no disk.
+class BenchFolder {
+public:
+    BenchFolder();
+    BenchFolder(const BenchFolder&) = delete;
+    BenchFolder& operator=(const BenchFolder&) = delete;
+    ~BenchFolder();
+
+    /// Of the file of this name in it.
+    std::string Path(const std::string& name) const { return path_ + "/" + name; }
+    /// Of a file that was not there before; the one given before is removed.
+    std::string FreshPath();
+
+private:
+    std::string path_;
+    std::string last_;
+    int count_ = 0;
+};
+
+}  // namespace kvopt::bench
