@@ -1,0 +1,70 @@
+#include "monkey/stage.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+#include <utility>
+
+#include "kvopt/study.h"
+
+namespace kvopt::monkey {
+
+namespace {
+
+std::filesystem::path MakeFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "kvopt-monkey-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) {
+        throw std::runtime_error("no folder can be made for the stores");
+    }
+    return name;
+}
+
+}  // namespace
+
+Stage::Stage(const std::string& studyFile)
+    : folder_(MakeFolder()),
+      formerFactory_(IniFileFactory::Install(std::make_shared<IniFileFactory>())),
+      formerProfile_(UserProfile::Install(std::make_shared<UserProfile>(
+          IniFileFactory::Instance()->GetIniFile(FileOf("profile.ini"), "")))),
+      formerRegistry_(Registry::Install(std::make_shared<Registry>(
+          IniFileFactory::Instance()->GetIniFile(FileOf("registry.ini"), "")))),
+      study_(LoadStudy(studyFile)) {
+    study_->SetIniFileName(FileOf("study.ini"));
+    Investigation::SetActiveInvestigation(study_.get());
+}
+
+Stage::~Stage() {
+    Investigation::SetActiveInvestigation(nullptr);
+    study_.reset();
+    Registry::Install(std::move(formerRegistry_));
+    UserProfile::Install(std::move(formerProfile_));
+    IniFileFactory::Install(std::move(formerFactory_));
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+}
+
+std::string Stage::Remembered() const {
+    std::string all;
+    for (const char* name : {"study.ini", "profile.ini"}) {
+        std::ifstream file(folder_ / name, std::ios::binary);
+        for (std::string line; std::getline(file, line);) {
+            if (line.find("esolution") == std::string::npos) {
+                all += line + '\n';
+            }
+        }
+    }
+    return all;
+}
+
+std::vector<std::string> Stage::Names() const {
+    std::vector<std::string> names;
+    for (const FactorClass* factor : study_->GetVariables()->GetAllFactors()) {
+        names.push_back(factor->GetName());
+    }
+    for (const ResponseClass* response : study_->GetVariables()->GetAllResponses()) {
+        names.push_back(response->GetName());
+    }
+    return names;
+}
+
+}  // namespace kvopt::monkey

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "kvopt/host.h"
+#include "kvopt/stores.h"
+
+namespace kvopt::monkey {
+
+/// A study with stores of its own in a new folder, which goes with it.
+class Stage {
+public:
+    explicit Stage(const std::string& studyFile);
+    ~Stage();
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    ReferenceStudy& Study() { return *study_; }
+    std::string FileOf(const std::string& name) const { return (folder_ / name).string(); }
+    /// What a refused page may not change: the study's ini file and the user's profile without
+    /// the resolutions, which a page may keep at any time.
+    std::string Remembered() const;
+    /// Names of factors and responses.
+    std::vector<std::string> Names() const;
+
+private:
+    std::filesystem::path folder_;
+    std::shared_ptr<IniFileFactory> formerFactory_;
+    std::shared_ptr<UserProfile> formerProfile_;
+    std::shared_ptr<Registry> formerRegistry_;
+    std::unique_ptr<ReferenceStudy> study_;
+};
+
+}  // namespace kvopt::monkey
