@@ -47,9 +47,12 @@ std::string Stage::Remembered() const {
     std::string all;
     for (const char* name : {"study.ini", "profile.ini"}) {
         std::ifstream file(folder_ / name, std::ios::binary);
+        std::string section;
         for (std::string line; std::getline(file, line);) {
-            if (line.find("esolution") == std::string::npos) {
-                all += line + '\n';
+            if (line.starts_with('[')) {
+                section = line;
+            } else if (!line.empty() && line.find("esolution") == std::string::npos) {
+                all += section + ' ' + line + '\n';
             }
         }
     }
