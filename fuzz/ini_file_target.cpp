@@ -19,9 +19,11 @@ void RequireStable(const std::string& text) {
 }  // namespace
 
 void IniFile(std::string_view input) {
-    RequireStable(Printed(ini::ParseWhatIsReadable(input)));
+    const std::string readable = Printed(ini::ParseWhatIsReadable(input));
+    RequireStable(readable);
     try {
-        RequireStable(Printed(ini::Parse(input, "x.ini")));
+        Require(Printed(ini::Parse(input, "x.ini")) == readable,
+                "a good ini text is not recovered whole");
     } catch (const FileFormatError& error) {
         Require(!error.Place().empty() && !error.Expected().empty() && !error.Found().empty(),
                 "an error without place, expectation or finding");

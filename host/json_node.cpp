@@ -216,16 +216,21 @@ void JsonNode::Fail(const std::string& expected) const {
 }
 
 void JsonNode::AllowKeys(std::initializer_list<std::string_view> keys) const {
-    const std::vector<std::string> known(keys.begin(), keys.end());
-    for (const auto& [name, node] : Members()) {
-        if (std::find(known.begin(), known.end(), name) != known.end()) {
+    if (!value_->is_object()) {
+        Fail("an object");
+    }
+    for (auto item = value_->begin(); item != value_->end(); ++item) {
+        const std::string& name = item.key();
+        if (std::find(keys.begin(), keys.end(), name) != keys.end()) {
             continue;
         }
+        const std::vector<std::string> known(keys.begin(), keys.end());
         std::string expected;
         for (const std::string& key : known) {
             expected += (expected.empty() ? "only the keys " : ", ") + key;
         }
-        throw StudyFault{node.Pointer(), expected, "the key " + Quoted(name) + Hint(name, known)};
+        throw StudyFault{pointer_ + PointerStep(name), expected,
+                         "the key " + Quoted(name) + Hint(name, known)};
     }
 }
 

@@ -17,12 +17,14 @@ constexpr int kVersion = 1;
 template <class Words>
 auto Word(const JsonNode& node, const Words& words) {
     const std::string text = node.Text();
-    std::vector<std::string> known;
-    std::string expected;
     for (const auto& candidate : words) {
         if (candidate.word == text) {
             return candidate.value;
         }
+    }
+    std::vector<std::string> known;
+    std::string expected;
+    for (const auto& candidate : words) {
         known.emplace_back(candidate.word);
         expected += (expected.empty() ? "one of the words " : ", ") + std::string(candidate.word);
     }

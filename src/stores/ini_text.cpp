@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -113,11 +114,10 @@ public:
             ++lineNumber_;
             const std::size_t end = text_.find('\n', at);
             const std::size_t next = end == std::string_view::npos ? text_.size() : end + 1;
-            try {
-                ReadLine(at, next);
-            } catch (const FileFormatError&) {
+            if (const std::optional<Damage> damage = ReadLine(at, next)) {
                 if (!passOverDamage) {
-                    throw;
+                    throw FileFormatError(fileName_, "line " + std::to_string(lineNumber_),
+                                          damage->expected, damage->found);
                 }
                 PassOver(at, next);
             }
@@ -127,6 +127,13 @@ public:
     }
 
 private:
+    // Why a line cannot be read. A damaged text can hold many such lines, so they are told and not
+    // thrown.
+    struct Damage {
+        std::string expected;
+        std::string found;
+    };
+
     // Of a line with its end, what is read from it.
     static std::string_view ContentOf(std::string_view line) {
         if (!line.empty() && line.back() == '\n') {
@@ -145,20 +152,22 @@ private:
         above_ = end;
     }
 
-    void ReadLine(std::size_t begin, std::size_t end) {
+    std::optional<Damage> ReadLine(std::size_t begin, std::size_t end) {
         const std::string_view line = text_.substr(begin, end - begin);
         std::string_view content = ContentOf(line);
         if (content.find('\0') != std::string_view::npos) {
-            Fail("text", "a NUL character");
+            return Damage{"text", "a NUL character"};
         }
         content = Trim(content);
         if (content.empty() || content.front() == ';' || content.front() == '#') {
-            return;
+            return std::nullopt;
         }
         const std::string_view linesAbove = text_.substr(above_, begin - above_);
         above_ = end;
         if (content.front() == '[') {
-            ReadHeader(content);
+            if (std::optional<Damage> damage = ReadHeader(content)) {
+                return damage;
+            }
             if (section_->hasHeader) {
                 // A section that stands twice is joined; the lines above its second header stay.
                 section_->linesBelow += linesAbove;
@@ -168,14 +177,14 @@ private:
                 section_->hasHeader = true;
                 section_->place = lineNumber_;
             }
-            return;
+            return std::nullopt;
         }
         const std::size_t equals = content.find('=');
         if (equals == std::string_view::npos) {
-            Fail("a section, a key with \"=\" or a comment", Quote(content));
+            return Damage{"a section, a key with \"=\" or a comment", Quote(content)};
         }
         if (section_ == nullptr) {
-            return;
+            return std::nullopt;
         }
         StoredKey& key = section_->OpenKey(UnescapeName(Trim(content.substr(0, equals))));
         if (!key.line.empty()) {
@@ -187,25 +196,26 @@ private:
         key.text = Unescape(Trim(content.substr(equals + 1)));
         key.line = line;
         key.linesAbove = linesAbove;
+        return std::nullopt;
     }
 
     // The sections are made when the whole header was read.
-    void ReadHeader(std::string_view rest) {
+    std::optional<Damage> ReadHeader(std::string_view rest) {
         steps_.clear();
         while (!rest.empty()) {
             if (steps_.size() == kDeepestSection) {
-                Fail("at most " + std::to_string(kDeepestSection) + " names", "more");
+                return Damage{"at most " + std::to_string(kDeepestSection) + " names", "more"};
             }
             const std::size_t close = rest.find(']');
             if (rest.front() != '[' || close == std::string_view::npos) {
-                Fail("\"[\", a name and \"]\"", Quote(rest));
+                return Damage{"\"[\", a name and \"]\"", Quote(rest)};
             }
             std::string_view name = rest.substr(1, close - 1);
             int number = 1;
             const std::size_t mark = name.find(';');
             if (mark != std::string_view::npos) {
                 if (!KvString::ToInt(name.substr(mark + 1), number) || number < 1) {
-                    Fail("a number from 1 up after \";\"", Quote(name.substr(mark + 1)));
+                    return Damage{"a number from 1 up after \";\"", Quote(name.substr(mark + 1))};
                 }
                 name = name.substr(0, mark);
             }
@@ -216,6 +226,7 @@ private:
         for (const auto& [name, number] : steps_) {
             section_ = &section_->OpenChild(UnescapeName(Trim(name)), number);
         }
+        return std::nullopt;
     }
 
     static std::string Quote(std::string_view text) {
@@ -223,10 +234,6 @@ private:
         std::string quoted = "\"";
         AppendEscaped(quoted, text.substr(0, kLongest), kPlainInErrors, false);
         return quoted + (text.size() > kLongest ? "...\"" : "\"");
-    }
-
-    [[noreturn]] void Fail(std::string_view expected, std::string_view found) const {
-        throw FileFormatError(fileName_, "line " + std::to_string(lineNumber_), expected, found);
     }
 
     std::string_view text_;
