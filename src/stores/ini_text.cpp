@@ -116,8 +116,9 @@ public:
             const std::size_t next = end == std::string_view::npos ? text_.size() : end + 1;
             if (const std::optional<Damage> damage = ReadLine(at, next)) {
                 if (!passOverDamage) {
-                    throw FileFormatError(fileName_, "line " + std::to_string(lineNumber_),
-                                          damage->expected, damage->found);
+                    throw FileFormatError(
+                        fileName_, "line " + std::to_string(lineNumber_), damage->expected,
+                        damage->isQuoted ? Quote(damage->found) : std::string(damage->found));
                 }
                 PassOver(at, next);
             }
@@ -128,10 +129,12 @@ public:
 
 private:
     // Why a line cannot be read. A damaged text can hold many such lines, so they are told and not
-    // thrown.
+    // thrown, and the text for a person is made only when one is thrown.
     struct Damage {
-        std::string expected;
-        std::string found;
+        std::string_view expected;
+        std::string_view found;
+        // What was found is a part of the line.
+        bool isQuoted = true;
     };
 
     // Of a line with its end, what is read from it.
@@ -156,7 +159,7 @@ private:
         const std::string_view line = text_.substr(begin, end - begin);
         std::string_view content = ContentOf(line);
         if (content.find('\0') != std::string_view::npos) {
-            return Damage{"text", "a NUL character"};
+            return Damage{"text", "a NUL character", false};
         }
         content = Trim(content);
         if (content.empty() || content.front() == ';' || content.front() == '#') {
@@ -181,7 +184,7 @@ private:
         }
         const std::size_t equals = content.find('=');
         if (equals == std::string_view::npos) {
-            return Damage{"a section, a key with \"=\" or a comment", Quote(content)};
+            return Damage{"a section, a key with \"=\" or a comment", content};
         }
         if (section_ == nullptr) {
             return std::nullopt;
@@ -204,18 +207,19 @@ private:
         steps_.clear();
         while (!rest.empty()) {
             if (steps_.size() == kDeepestSection) {
-                return Damage{"at most " + std::to_string(kDeepestSection) + " names", "more"};
+                static_assert(kDeepestSection == 100);
+                return Damage{"at most 100 names", "more", false};
             }
             const std::size_t close = rest.find(']');
             if (rest.front() != '[' || close == std::string_view::npos) {
-                return Damage{"\"[\", a name and \"]\"", Quote(rest)};
+                return Damage{"\"[\", a name and \"]\"", rest};
             }
             std::string_view name = rest.substr(1, close - 1);
             int number = 1;
             const std::size_t mark = name.find(';');
             if (mark != std::string_view::npos) {
                 if (!KvString::ToInt(name.substr(mark + 1), number) || number < 1) {
-                    return Damage{"a number from 1 up after \";\"", Quote(name.substr(mark + 1))};
+                    return Damage{"a number from 1 up after \";\"", name.substr(mark + 1)};
                 }
                 name = name.substr(0, mark);
             }
