@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <random>
+#include <string_view>
 #include <vector>
 
 namespace kvopt::monkey {
@@ -12,6 +13,8 @@ namespace kvopt::monkey {
 class Dice {
 public:
     explicit Dice(std::uint64_t seed) : engine_(seed) {}
+    /// Other chances for another name.
+    Dice(std::uint64_t seed, std::string_view name) : engine_(Mixed(seed, name)) {}
 
     /// From 0 up to, and without, `end`; `end` is not 0.
     std::size_t Below(std::size_t end) { return static_cast<std::size_t>(engine_() % end); }
@@ -22,6 +25,13 @@ public:
     }
 
 private:
+    static std::uint64_t Mixed(std::uint64_t seed, std::string_view name) {
+        for (const char letter : name) {
+            seed = (seed ^ static_cast<unsigned char>(letter)) * 0x100000001B3U;
+        }
+        return seed;
+    }
+
     std::mt19937_64 engine_;
 };
 

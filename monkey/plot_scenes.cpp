@@ -1,12 +1,16 @@
-#include "kvopt/axes.h"
+#include <utility>
+
 #include "kvopt/platform.h"
 #include "kvopt/plotargs.h"
 #include "kvopt/sheets.h"
 #include "kvopt/stores.h"
 #include "kvopt/study.h"
+#include "kvopt/text.h"
+#include "monkey/accepted_pages.h"
 #include "monkey/invariants.h"
 #include "monkey/scenes.h"
 #include "monkey/stage.h"
+#include "tests/support/host_plot.h"
 
 namespace kvopt::monkey {
 
@@ -14,54 +18,40 @@ namespace {
 
 using Type = ContourPageData::Type;
 
+/// What a host makes, and how it opens it.
 struct PlotKind {
-    std::string name;
-    Type type;
+    Type type = ContourPageData::contour_2D;
+    bool isMixture = false;
+    bool fromDesignSpace = false;  ///< its constants are given
+    bool isDesirability = false;
+    bool isDesignRegion = false;  ///< without responses
+    bool hasHelper = true;        ///< of a sheet
+    bool isAbandoned = false;     ///< at the third drawing of a sheet
 };
 
-ContourPlotData NewPlot(Stage& stage, Type type) {
-    return ContourPlotData(&stage.Study(), 0, stage.FileOf("study.ini"),
-                           type == ContourPageData::ds_probability, false, false, false);
+ContourPlotData NewPlot(Stage& stage, const PlotKind& kind) {
+    const bool isDesignSpace = kind.type == ContourPageData::ds_probability;
+    ContourPlotData plot(&stage.Study(), 0, stage.FileOf("study.ini"), isDesignSpace,
+                         kind.fromDesignSpace, false, kind.isDesirability);
+    plot.GetContourTypeData()->SetPlotType(kind.type);
+    plot.GetContourTypeData()->SetUseDummyData(kind.isDesignRegion);
+    return plot;
 }
 
-void RunWizard(Stage& stage, Invariants& invariants, Type type) {
+void RunWizard(Stage& stage, Invariants& invariants, const PlotKind& kind) {
     // The second run begins with what the first one remembered.
     for (int run = 0; run < 2; ++run) {
-        ContourPlotData plot = NewPlot(stage, type);
-        plot.GetContourTypeData()->SetPlotType(type);
-        invariants.Watch(&plot, nullptr);
-        if (ShowContourWizard(nullptr, plot, &stage.Study(), true, false)) {
+        ContourPlotData plot = NewPlot(stage, kind);
+        invariants.Watch({&plot});
+        if (ShowContourWizard(nullptr, plot, &stage.Study(), true, kind.isDesirability)) {
             invariants.CheckAxes();
         }
-        invariants.Watch(nullptr, nullptr);
+        invariants.Watch({});
     }
 }
 
-/// Chooses the axes as a host does that asks nobody. False when the study has too few factors.
-bool ChooseAxes(Stage& stage, Type type, bool isMixture, ContourPlotData& plot) {
-    const Investigation* study = &stage.Study();
-    switch (type) {
-        case ContourPageData::contour_2D:
-        case ContourPageData::surface_3D:
-            if (!isMixture) {
-                ContourAxisHelper(study, &plot, type, ContourPlotData::Process2D).Setup();
-                break;
-            }
-            Mixture2DAxisHelper(study, &plot).Setup();
-            plot.GetContourTypeData()->SetPlotType(type);
-            break;
-        case ContourPageData::contour_4D:
-        case ContourPageData::surface_4D:
-            if (isMixture) {
-                Mixture4DAxisHelper(study, &plot, type).Setup();
-            } else {
-                Contour4DAxisHelper(study, &plot, type).Setup();
-            }
-            break;
-        case ContourPageData::ds_probability:
-            ProbabilityContourAxisHelper(study, &plot, isMixture).Setup();
-            break;
-    }
+/// Whether the study has the factors that the inner axes of a plot need.
+bool HasInnerAxes(const ContourPlotData& plot, bool isMixture) {
     int count = 0;
     const auto& axes = plot.GetSelectedAxisInfo(count);
     const int needed = isMixture ? 3 : 2;
@@ -73,62 +63,102 @@ bool ChooseAxes(Stage& stage, Type type, bool isMixture, ContourPlotData& plot) 
     return true;
 }
 
-void AddConstants(Stage& stage, ContourPlotData& plot) {
-    const Variables* variables = stage.Study().GetVariables();
-    for (const FactorClass* factor : variables->GetAllFactors()) {
-        if (!FactorConstants::IsMember(plot.GetPlotConstants(), factor->GetName())) {
-            FactorConstants::AddConstant(plot.GetPlotConstants(), variables, factor,
-                                         FactorConstants::LOW);
-        }
-    }
-}
-
 /// A plot is made and saved, and the sheet opens on what is read back.
-void EditSavedPlot(Stage& stage, Invariants& invariants, Type type, bool isMixture) {
-    ContourPlotData made = NewPlot(stage, type);
-    if (!ChooseAxes(stage, type, isMixture, made)) {
+void EditSavedPlot(Stage& stage, Invariants& invariants, const PlotKind& kind) {
+    ContourPlotData made = NewPlot(stage, kind);
+    test::ChooseAxes(&stage.Study(), kind.type, kind.isMixture, made);
+    if (!HasInnerAxes(made, kind.isMixture)) {
         return;
     }
-    AddConstants(stage, made);
+    test::AddConstants(&stage.Study(), made);
     ConfigurationStore saved;
     made.WriteSection(saved.Root().get());
     saved.Save(stage.FileOf("plot.json"));
     const ConfigurationStore loaded = ConfigurationStore::Load(stage.FileOf("plot.json"));
-    ContourPlotData plot = NewPlot(stage, type);
+    ContourPlotData plot = NewPlot(stage, kind);
     plot.ReadSection(loaded.Root().get());
 
     BasePropertyPageHelper helper;
-    PropertyPageListener listener;
+    AcceptedPages listener(invariants, kind.isAbandoned);
     listener.ConnectTo(&helper);
-    invariants.Watch(&plot, &helper);
-    if (ShowContourSheet(nullptr, plot, &stage.Study(), plot.GetPlotConstants(), &helper, true)) {
+    BasePropertyPageHelper* const given = kind.hasHelper ? &helper : nullptr;
+    invariants.Watch({&plot, given});
+    bool isConfirmed = false;
+    try {
+        isConfirmed =
+            ShowContourSheet(nullptr, plot, &stage.Study(), plot.GetPlotConstants(), given, true);
+    } catch (const CancelException&) {
+        // Abandoned while it was drawn.
+    }
+    if (isConfirmed) {
         invariants.CheckAxes();
     }
-    invariants.Watch(nullptr, nullptr);
+    if (given != nullptr) {
+        invariants.CheckClosed();
+    }
+    invariants.Watch({});
+}
+
+Scene WizardScene(const std::string& name, const PlotKind& kind) {
+    return {name + " wizard",
+            [kind](Stage& stage, Invariants& invariants) { RunWizard(stage, invariants, kind); }};
+}
+
+Scene SheetScene(const std::string& name, const PlotKind& kind) {
+    return {name + " sheet", [kind](Stage& stage, Invariants& invariants) {
+                EditSavedPlot(stage, invariants, kind);
+            }};
+}
+
+PlotKind KindOf(Type type) {
+    PlotKind kind;
+    kind.type = type;
+    return kind;
+}
+
+/// What only some plots are.
+std::vector<Scene> SpecialScenes() {
+    PlotKind given = KindOf(ContourPageData::ds_probability);
+    given.fromDesignSpace = true;
+    PlotKind desirability;
+    desirability.isDesirability = true;
+    PlotKind region;
+    region.isDesignRegion = true;
+    region.isMixture = true;
+    PlotKind alone = KindOf(ContourPageData::contour_4D);
+    alone.hasHelper = false;
+    PlotKind aloneBelow;
+    aloneBelow.hasHelper = false;
+    PlotKind abandoned = KindOf(ContourPageData::contour_4D);
+    abandoned.isAbandoned = true;
+    return {WizardScene("given constants", given),
+            WizardScene("desirability", desirability),
+            WizardScene("design region", region),
+            SheetScene("given constants", given),
+            SheetScene("design region", region),
+            SheetScene("abandoned", abandoned),
+            SheetScene("4D contour without a helper", alone),
+            SheetScene("contour without a helper", aloneBelow)};
 }
 
 }  // namespace
 
 std::vector<Scene> PlotScenes() {
-    const std::vector<PlotKind> kinds{{"contour", ContourPageData::contour_2D},
-                                      {"4D contour", ContourPageData::contour_4D},
-                                      {"surface", ContourPageData::surface_3D},
-                                      {"4D surface", ContourPageData::surface_4D},
-                                      {"design space", ContourPageData::ds_probability}};
-    std::vector<Scene> scenes;
-    for (const PlotKind& kind : kinds) {
-        const Type type = kind.type;
-        if (type != ContourPageData::surface_4D) {
-            scenes.push_back({kind.name + " wizard", [type](Stage& stage, Invariants& invariants) {
-                                  RunWizard(stage, invariants, type);
-                              }});
+    const std::vector<std::pair<std::string, Type>> types{
+        {"contour", ContourPageData::contour_2D},
+        {"4D contour", ContourPageData::contour_4D},
+        {"surface", ContourPageData::surface_3D},
+        {"4D surface", ContourPageData::surface_4D},
+        {"design space", ContourPageData::ds_probability}};
+    std::vector<Scene> scenes = SpecialScenes();
+    for (const auto& type : types) {
+        PlotKind kind = KindOf(type.second);
+        if (type.second != ContourPageData::surface_4D) {
+            scenes.push_back(WizardScene(type.first, kind));
         }
-        for (const bool isMixture : {false, true}) {
-            scenes.push_back({(isMixture ? "mixture " : "process ") + kind.name + " sheet",
-                              [type, isMixture](Stage& stage, Invariants& invariants) {
-                                  EditSavedPlot(stage, invariants, type, isMixture);
-                              }});
-        }
+        scenes.push_back(SheetScene("process " + type.first, kind));
+        kind.isMixture = true;
+        scenes.push_back(SheetScene("mixture " + type.first, kind));
     }
     return scenes;
 }

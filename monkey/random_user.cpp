@@ -1,6 +1,7 @@
 #include "monkey/random_user.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "kvopt/platform/controls.h"
@@ -10,7 +11,9 @@
 #include "kvopt/platform/property_page.h"
 #include "kvopt/platform/property_sheet.h"
 #include "kvopt/platform/virtual_worksheet.h"
+#include "kvopt/scripted/slider_path.h"
 #include "kvopt/text/kv_std_string.h"
+#include "kvopt/text/kv_string.h"
 
 namespace kvopt::monkey {
 
@@ -25,7 +28,12 @@ const std::vector<std::string>& Texts() {
     return texts;
 }
 
-/// Those that end a run come seldom, so that a run gets somewhere.
+/// Steps that end a run when they are accepted.
+bool IsEnd(StepVerb verb) {
+    return verb == StepVerb::Ok || verb == StepVerb::Cancel || verb == StepVerb::Close ||
+           verb == StepVerb::Finish;
+}
+
 StepVerb FrameVerb(const StepScope& scope, Dice& dice) {
     std::vector<StepVerb> verbs;
     const auto offer = [&](FrameButton button, StepVerb verb, int weight) {
@@ -75,10 +83,20 @@ std::optional<UserStep> RandomUser::Next(const StepScope& scope) {
         }
     }
     if (usable.empty() || dice_.Percent(15)) {
-        return OnFrame(scope);
+        const UserStep step = OnFrame(scope);
+        // A run gets somewhere when its end comes seldom.
+        if (usable.empty() || !IsEnd(step.verb) || dice_.Percent(30)) {
+            return step;
+        }
     }
     if (dice_.Percent(3)) {
         return PressKey();
+    }
+    if (dice_.Percent(1)) {
+        UserStep wait;
+        wait.verb = StepVerb::Wait;
+        wait.count = 150;
+        return wait;
     }
     return OnControl(*dice_.Of(usable));
 }
@@ -119,9 +137,19 @@ std::string RandomUser::AnyText() {
     return !names_.empty() && dice_.Percent(15) ? dice_.Of(names_) : dice_.Of(Texts());
 }
 
-UserStep RandomUser::Typing(UserStep step, StepVerb verb) {
+/// A number a little beside the present one; anything where that is no number.
+std::string RandomUser::TextNear(const std::string& present) {
+    double number = 0.0;
+    if (!KvString::ToDouble(present, number)) {
+        return AnyText();
+    }
+    const int hundredths = static_cast<int>(dice_.Below(41)) - 20;
+    return KvString::FormatG(number + std::max(std::abs(number), 0.1) * hundredths / 100.0);
+}
+
+UserStep RandomUser::Typing(UserStep step, StepVerb verb, const std::string& present) {
     step.verb = verb;
-    step.values = {AnyText()};
+    step.values = {dice_.Percent(50) ? TextNear(present) : AnyText()};
     return step;
 }
 
@@ -134,10 +162,11 @@ UserStep RandomUser::OnControl(CControl& control) {
     }
     switch (control.Kind()) {
         case ControlKind::Edit:
-            return Typing(step, dice_.Percent(80) ? StepVerb::Type : StepVerb::Paste);
+            return Typing(step, dice_.Percent(80) ? StepVerb::Type : StepVerb::Paste,
+                          KvStdString::ToUtf8(control.GetText()));
         case ControlKind::ComboEdit:
             if (dice_.Percent(50)) {
-                return Typing(step, StepVerb::Type);
+                return Typing(step, StepVerb::Type, KvStdString::ToUtf8(control.GetText()));
             }
             return OnList(static_cast<CItemControl&>(control), step);
         case ControlKind::ComboList:
@@ -195,10 +224,30 @@ StepTarget RandomUser::AnyCell(const VirtualWorksheet& worksheet) {
     const auto below = [&](int count) {
         return static_cast<int>(dice_.Below(static_cast<std::size_t>(count))) + 1;
     };
-    StepTarget target =
-        StepTarget::Cell({below(content.RowCount()), ""}, {below(content.ColumnCount()), ""});
+    // One after the other: the order of a call's arguments is the compiler's.
+    const int row = below(content.RowCount());
+    const int column = below(content.ColumnCount());
+    StepTarget target = StepTarget::Cell({row, ""}, {column, ""});
     target.number = worksheet.Number();
     return target;
+}
+
+/// What the cell takes, and now and then what it does not.
+StepVerb RandomUser::CellVerb(const VirtualWorksheet& worksheet, CPoint cell) {
+    const BaseWorksheetInterface& content = *worksheet.Content();
+    std::vector<StepVerb> verbs{StepVerb::Select, StepVerb::Hover, StepVerb::Menu, StepVerb::Paste};
+    const bool isAny = dice_.Percent(5);
+    const auto type = content.GetFieldType(cell.x, cell.y);
+    if (isAny || type == FieldDef::Number) {
+        verbs.insert(verbs.end(), {StepVerb::Type, StepVerb::Type, StepVerb::Type, StepVerb::Edit});
+    }
+    if (isAny || type == FieldDef::Combo) {
+        verbs.insert(verbs.end(), 4, StepVerb::Pick);
+    }
+    if (isAny || SliderOfCell(content, cell)) {
+        verbs.insert(verbs.end(), 4, StepVerb::Drag);
+    }
+    return dice_.Of(verbs);
 }
 
 UserStep RandomUser::OnWorksheet(const VirtualWorksheet& worksheet, UserStep step) {
@@ -208,21 +257,19 @@ UserStep RandomUser::OnWorksheet(const VirtualWorksheet& worksheet, UserStep ste
         return step;
     }
     step.target = AnyCell(worksheet);
-    static const std::vector<StepVerb> verbs{StepVerb::Type, StepVerb::Type,   StepVerb::Edit,
-                                             StepVerb::Pick, StepVerb::Pick,   StepVerb::Drag,
-                                             StepVerb::Drag, StepVerb::Select, StepVerb::Hover,
-                                             StepVerb::Menu, StepVerb::Paste};
-    step.verb = dice_.Of(verbs);
+    const CPoint cell{step.target.column.position, step.target.row.position};
+    step.verb = CellVerb(worksheet, cell);
     switch (step.verb) {
         case StepVerb::Type:
         case StepVerb::Edit:
-            return Typing(step, step.verb);
+            return Typing(step, step.verb, content->GetCellText(cell.x, cell.y));
         case StepVerb::Paste:
-            step.values = {AnyText() + '\t' + AnyText() + '\n' + AnyText()};
+            step.values = {AnyText()};
+            step.values.front() += '\t' + AnyText();
+            step.values.front() += '\n' + AnyText();
             return step;
         case StepVerb::Pick: {
-            const FieldDef* field =
-                content->GetFieldDef(step.target.column.position, step.target.row.position);
+            const FieldDef* field = content->GetFieldDef(cell.x, cell.y);
             const std::vector<std::string> entries =
                 field != nullptr ? field->ComboSettings() : std::vector<std::string>{};
             step.values = {entries.empty() ? "" : dice_.Of(entries)};
@@ -266,7 +313,8 @@ UserStep RandomUser::OnGrid(const CXTPPropertyGrid& grid, UserStep step) {
         return step;
     }
     if (row.TakesText()) {
-        return Typing(step, dice_.Percent(80) ? StepVerb::Type : StepVerb::Edit);
+        return Typing(step, dice_.Percent(80) ? StepVerb::Type : StepVerb::Edit,
+                      KvStdString::ToUtf8(row.GetValue()));
     }
     step.verb = row.IsCategory() ? StepVerb::Focus : StepVerb::Click;
     return step;

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "kvopt/platform/geometry.h"
 #include "monkey/dice.h"
 #include "monkey/step_source.h"
 
@@ -31,8 +32,11 @@ private:
     UserStep OnWorksheet(const VirtualWorksheet& worksheet, UserStep step);
     UserStep OnGrid(const CXTPPropertyGrid& grid, UserStep step);
     UserStep PressKey();
-    UserStep Typing(UserStep step, StepVerb verb);
+    /// `present` is what stands there now.
+    UserStep Typing(UserStep step, StepVerb verb, const std::string& present);
     std::string AnyText();
+    std::string TextNear(const std::string& present);
+    StepVerb CellVerb(const VirtualWorksheet& worksheet, CPoint cell);
     StepTarget AnyCell(const VirtualWorksheet& worksheet);
 
     Dice& dice_;

@@ -21,5 +21,7 @@ std::vector<Scene> AllScenes();
 
 std::vector<Scene> PlotScenes();
 std::vector<Scene> PageScenes();
+/// Wizards that a host puts together of the library's pages.
+std::vector<Scene> HostWizardScenes();
 
 }  // namespace kvopt::monkey

@@ -6,13 +6,20 @@
 #include <utility>
 
 #include "kvopt/study.h"
+#include "monkey/value_text.h"
 
 namespace kvopt::monkey {
 
 namespace {
 
+/// In memory, where the system has such a file system: nothing of a run is kept, so that nothing
+/// needs to be flushed to a disk.
 std::filesystem::path MakeFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "kvopt-monkey-XXXXXX").string();
+    const std::filesystem::path memory("/dev/shm");
+    std::error_code ignored;
+    const bool hasMemory = std::filesystem::is_directory(memory, ignored);
+    const auto root = hasMemory ? memory : std::filesystem::temp_directory_path();
+    std::string name = (root / "kvopt-monkey-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr) {
         throw std::runtime_error("no folder can be made for the stores");
     }
@@ -44,8 +51,10 @@ Stage::~Stage() {
 }
 
 std::string Stage::Remembered() const {
-    std::string all;
-    for (const char* name : {"study.ini", "profile.ini"}) {
+    std::vector<std::string> responses;
+    study_->GetSelectedResponses(responses, SelectResponseBase::Ordinary);
+    std::string all = "selected: " + TextOf(responses) + '\n';
+    for (const char* name : {"study.ini", "profile.ini", "registry.ini"}) {
         std::ifstream file(folder_ / name, std::ios::binary);
         std::string section;
         for (std::string line; std::getline(file, line);) {

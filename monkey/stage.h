@@ -20,8 +20,8 @@ public:
 
     ReferenceStudy& Study() { return *study_; }
     std::string FileOf(const std::string& name) const { return (folder_ / name).string(); }
-    /// What a refused page may not change: the study's ini file and the user's profile without
-    /// the resolutions, which a page may keep at any time.
+    /// What a refused page may not change: the study's selection of responses, its ini file, the
+    /// user's registry, and the profile without the resolutions, which a page may keep at any time.
     std::string Remembered() const;
     /// Names of factors and responses.
     std::vector<std::string> Names() const;

@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "kvopt/axes.h"
 #include "kvopt/platform.h"
 #include "kvopt/plotargs.h"
 #include "kvopt/sheets.h"
@@ -12,6 +11,7 @@
 #include "tests/stories/saved_plot.h"
 #include "tests/stories/story.h"
 #include "tests/stories/story_stage.h"
+#include "tests/support/host_plot.h"
 
 namespace kvopt::test {
 
@@ -34,35 +34,6 @@ ContourPlotData NewPlot(StoryStage& stage, const SheetPlot& kind, const std::str
                            false);
 }
 
-/// Chooses the axes as a host does that asks nobody.
-void ChooseAxes(StoryStage& stage, const SheetPlot& kind, ContourPlotData& plot) {
-    const Investigation* study = &stage.Study();
-    const Type type = kind.type;
-    const bool isMixture = kind.axes == ContourPageData::mixture;
-    switch (type) {
-        case ContourPageData::contour_2D:
-        case ContourPageData::surface_3D:
-            if (isMixture) {
-                Mixture2DAxisHelper(study, &plot).Setup();
-                plot.GetContourTypeData()->SetPlotType(type);
-            } else {
-                ContourAxisHelper(study, &plot, type, ContourPlotData::Process2D).Setup();
-            }
-            return;
-        case ContourPageData::contour_4D:
-        case ContourPageData::surface_4D:
-            if (isMixture) {
-                Mixture4DAxisHelper(study, &plot, type).Setup();
-            } else {
-                Contour4DAxisHelper(study, &plot, type).Setup();
-            }
-            return;
-        case ContourPageData::ds_probability:
-            ProbabilityContourAxisHelper(study, &plot, isMixture).Setup();
-            return;
-    }
-}
-
 /// What a host does with each update of its plot.
 class PlotListener : public PropertyPageListener {
 public:
@@ -73,23 +44,12 @@ private:
     std::function<void()> draw_;
 };
 
-/// The constants that a plot gets when its wizard is finished.
-void AddConstants(StoryStage& stage, ContourPlotData& plot) {
-    const Variables* variables = stage.Study().GetVariables();
-    for (const FactorClass* factor : variables->GetAllFactors()) {
-        if (!FactorConstants::IsMember(plot.GetPlotConstants(), factor->GetName())) {
-            FactorConstants::AddConstant(plot.GetPlotConstants(), variables, factor,
-                                         FactorConstants::LOW);
-        }
-    }
-}
-
 /// Opens the sheet of a plot that was saved before, and saves what it left. Without `draw` nobody
 /// draws what is applied.
 bool EditSavedPlot(StoryStage& stage, const SheetPlot& kind, const std::function<void()>& draw) {
     ContourPlotData made = NewPlot(stage, kind, stage.IniFile());
-    ChooseAxes(stage, kind, made);
-    AddConstants(stage, made);
+    ChooseAxes(&stage.Study(), kind.type, kind.axes == ContourPageData::mixture, made);
+    AddConstants(&stage.Study(), made);
     SavePlot(stage, made, NewPlot(stage, kind, ""), "plot.json");
 
     ContourPlotData plot = NewPlot(stage, kind, stage.IniFile());
