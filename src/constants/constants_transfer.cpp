@@ -5,6 +5,7 @@
 #include "kvopt/study.h"
 #include "kvopt/text.h"
 #include "study/block_effect.h"
+#include "study/constants_index.h"
 
 namespace kvopt {
 
@@ -18,33 +19,37 @@ std::string CellTextOf(double value) {
 
 FactorConstants::SettingType VWSConstantInterface::SetFactorConstantValue(
     int column, int row, const std::string& factorName) {
+    ConstantsIndex constants(mConstants);
+    return ShowConstant(constants, column, row, factorName);
+}
+
+FactorConstants::SettingType VWSConstantInterface::ShowConstant(ConstantsIndex& constants,
+                                                                int column, int row,
+                                                                const std::string& factorName) {
     const Variables& variables = *mInvestigation->GetVariables();
-    const FactorClass* factor = mInvestigation->GetVariables()->GetFactor(factorName);
+    const FactorClass* factor = variables.GetFactor(factorName);
     const bool qualitative = factor != nullptr && factor->IsQualitative();
     std::string text;
     FactorConstants::SettingType setting = FactorConstants::REF;
 
-    if (FactorConstants::IsMember(mConstants, factorName)) {
-        FactorConstants::Constant& entry =
-            mConstants[FactorConstants::Lookup(mConstants, factorName)];
-        text = qualitative ? entry.QualValue() : CellTextOf(entry.FloatValue());
-        entry.SettingPos() = FactorConstants::WhichSetting(variables, factor, text.c_str());
-        setting = entry.SettingPos();
+    if (FactorConstants::Constant* entry = constants.Find(factorName)) {
+        text = qualitative ? entry->QualValue() : CellTextOf(entry->FloatValue());
+        entry->SettingPos() = FactorConstants::WhichSetting(variables, factor, text.c_str());
+        setting = entry->SettingPos();
     } else {
         FactorConstants::CenterValue(variables, factor, FactorConstants::REF, text);
         if (qualitative) {
             if (factorName == kBlockFactorName && HasRandomBlockEffect(*mInvestigation)) {
                 text = texts::kConstantsRandomBlock.Text();
             }
-            FactorConstants::Add(mConstants, {factorName, text, FactorConstants::REF});
+            constants.Add({factorName, text, FactorConstants::REF});
         } else {
             float value = kNotSetF;
             KvString::ToFloat(text, value);
             if (value == kNotSetF) {
                 text.clear();
             }
-            FactorConstants::Add(mConstants,
-                                 {factorName, static_cast<double>(value), FactorConstants::REF});
+            constants.Add({factorName, static_cast<double>(value), FactorConstants::REF});
         }
     }
     SetCellValue(column, row, text);
@@ -53,9 +58,15 @@ FactorConstants::SettingType VWSConstantInterface::SetFactorConstantValue(
 
 void VWSConstantInterface::GetFactorConstantValue(int column, int row,
                                                   const std::string& factorName) {
+    ConstantsIndex constants(mConstants);
+    TakeConstant(constants, column, row, factorName);
+}
+
+void VWSConstantInterface::TakeConstant(ConstantsIndex& constants, int column, int row,
+                                        const std::string& factorName) const {
     const std::string text = GetCellText(column, row);
     const Variables& variables = *mInvestigation->GetVariables();
-    const FactorClass* factor = mInvestigation->GetVariables()->GetFactor(factorName);
+    const FactorClass* factor = variables.GetFactor(factorName);
     if (text.empty() || factor == nullptr) {
         return;
     }
@@ -69,10 +80,10 @@ void VWSConstantInterface::GetFactorConstantValue(int column, int row,
         KvString::ToFloat(text, value);
         constant = FactorConstants::Constant(factorName, static_cast<double>(value), setting);
     }
-    if (FactorConstants::IsMember(mConstants, factorName)) {
-        mConstants[FactorConstants::Lookup(mConstants, factorName)] = constant;
+    if (FactorConstants::Constant* entry = constants.Find(factorName)) {
+        *entry = constant;
     } else {
-        FactorConstants::Add(mConstants, constant);
+        constants.Add(constant);
     }
 }
 
@@ -82,10 +93,11 @@ void VWSConstantInterface::SaveInterfaceValues() {
 
 void VWSConstantInterface::SaveInterfaceValues(int firstRow, int lastRow, int keyColumn,
                                                int valueColumn) {
+    ConstantsIndex constants(mConstants);
     for (int row = firstRow; row <= lastRow; ++row) {
         const std::string name = GetCellText(keyColumn, row);
         if (!name.empty()) {
-            GetFactorConstantValue(valueColumn, row, name);
+            TakeConstant(constants, valueColumn, row, name);
         }
     }
 }

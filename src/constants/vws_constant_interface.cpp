@@ -10,6 +10,7 @@
 #include "kvopt/study.h"
 #include "kvopt/text.h"
 #include "study/block_effect.h"
+#include "study/constants_index.h"
 
 namespace kvopt {
 
@@ -86,19 +87,19 @@ void VWSConstantInterface::UpdateInterface() {
     ResetOff();
     SetColumnFont(kFactorColumn, ListOptions::Instance().boldFactorNames ? 2 : 0);
 
-    const std::vector<FactorClass*> factors = mInvestigation->GetVariables()->GetAllFactors();
+    std::vector<const FactorClass*> listed;
     mFormulationOnAxis = false;
-    for (const FactorClass* factor : factors) {
-        if (SkipsFactor(*factor) && factor->IsMixture()) {
-            mFormulationOnAxis = true;
+    for (const FactorClass* factor : mInvestigation->GetVariables()->GetAllFactors()) {
+        if (SkipsFactor(*factor)) {
+            mFormulationOnAxis = mFormulationOnAxis || factor->IsMixture();
+        } else if (factor->factorValue.type != CEType::Filler) {
+            listed.push_back(factor);
         }
     }
 
+    ConstantsIndex constants(mConstants);
     int row = 1;
-    for (const FactorClass* factor : factors) {
-        if (factor->factorValue.type == CEType::Filler || SkipsFactor(*factor)) {
-            continue;
-        }
+    for (const FactorClass* factor : listed) {
         if (row > RowCount()) {
             AddRow(row, 1);
         }
@@ -107,7 +108,7 @@ void VWSConstantInterface::UpdateInterface() {
         if (GetFieldType(kValueColumn, row) == FieldDef::Combo) {
             ClearFieldComboSetting(kValueColumn, row);
         }
-        SetFactorConstantValue(kValueColumn, row, factor->name);
+        ShowConstant(constants, kValueColumn, row, factor->name);
         SetUpRow(*factor, row);
         ++row;
     }

@@ -15,6 +15,7 @@
 #include "kvopt/study/variables.h"
 #include "kvopt/text/exceptions.h"
 #include "study/block_effect.h"
+#include "study/constants_index.h"
 
 namespace kvopt {
 namespace {
@@ -113,20 +114,19 @@ void SweetSpotData::InitAxisInfo() {
 void SweetSpotData::InitConstInfo() {
     const Variables& variables = *GetInvestigation()->GetVariables();
     const ResponseModelUtilities models(GetInvestigation());
-    FactorConstants::Constant* const constants = GetPlotConstants();
+    ConstantsIndex constants = IndexConstants();
     for (const FactorClass* factor : variables.GetAllFactors()) {
         const std::string& name = factor->GetName();
-        if (!models.IsFactorAvailable(factor, true, false) ||
-            FactorConstants::IsMember(constants, name) || !HasRoomForConstant()) {
+        if (!models.IsFactorAvailable(factor, true, false) || constants.Find(name) != nullptr ||
+            !constants.HasRoom()) {
             continue;
         }
         if (!factor->IsQualitative()) {
-            FactorConstants::AddConstant(constants, &variables, factor, FactorConstants::REF);
+            constants.Add(variables, *factor, FactorConstants::REF);
         } else if (name == kBlockFactorName && HasRandomBlockEffect(*GetInvestigation())) {
-            FactorConstants::Add(constants,
-                                 {name, texts::kConstantsRandomBlock.Text(), FactorConstants::LOW});
+            constants.Add({name, texts::kConstantsRandomBlock.Text(), FactorConstants::LOW});
         } else {
-            FactorConstants::AddConstant(constants, &variables, factor, FactorConstants::LOW);
+            constants.Add(variables, *factor, FactorConstants::LOW);
         }
     }
 }

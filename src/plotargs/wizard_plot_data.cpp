@@ -15,6 +15,7 @@
 #include "kvopt/text/exceptions.h"
 #include "kvopt/text/kv_std_string.h"
 #include "kvopt/text/not_set.h"
+#include "study/constants_index.h"
 
 namespace kvopt {
 namespace {
@@ -179,22 +180,22 @@ void WizardPlotData::OverRideOptions(const ReportOverRideOptions* options) {
             }
         }
     }
+    ConstantsIndex constants = IndexConstants();
     for (const auto& [name, with] : options->GetConstants()) {
         using FactorConstants::Constant;
         const bool qualitative = investigation_->GetVariables()->IsFactorQualitative(name);
-        const int index = FactorConstants::Lookup(constants_.get(), name);
-        if (index < 0) {
-            AddConstant(qualitative ? Constant(name, with.QualValue(), with.SettingPos())
-                                    : Constant(name, with.FloatValue(), with.SettingPos()));
+        Constant* const known = constants.Find(name);
+        if (!known) {
+            constants.Add(qualitative ? Constant(name, with.QualValue(), with.SettingPos())
+                                      : Constant(name, with.FloatValue(), with.SettingPos()));
             continue;
         }
-        Constant& constant = constants_[index];
         if (qualitative) {
-            constant.QualValue(with.QualValue());
+            known->QualValue(with.QualValue());
         } else {
-            constant.FloatValue(with.FloatValue());
+            known->FloatValue(with.FloatValue());
         }
-        constant.SettingPos() = with.SettingPos();
+        known->SettingPos() = with.SettingPos();
     }
 }
 
@@ -204,12 +205,8 @@ void WizardPlotData::AllocateConstants(int capacity) {
         std::make_shared<FactorConstants::Constant[]>(static_cast<std::size_t>(capacity) + 1);
 }
 
-bool WizardPlotData::HasRoomForConstant() const {
-    return FactorConstants::NumConstants(constants_.get()) < constantCapacity_;
-}
-
-void WizardPlotData::AddConstant(const FactorConstants::Constant& constant) {
-    FactorConstants::Add(constants_.get(), constant, constantCapacity_);
+ConstantsIndex WizardPlotData::IndexConstants() const {
+    return ConstantsIndex(constants_.get(), constantCapacity_);
 }
 
 }  // namespace kvopt

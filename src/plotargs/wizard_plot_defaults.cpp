@@ -6,6 +6,7 @@
 #include <limits>
 #include <numeric>
 #include <set>
+#include <unordered_map>
 
 #include "kvopt/plotargs/wizard_plot_data.h"
 #include "kvopt/stores/ini_factor_constant.h"
@@ -18,6 +19,7 @@
 #include "kvopt/study/variables.h"
 #include "kvopt/text/kv_std_string.h"
 #include "kvopt/text/not_set.h"
+#include "study/constants_index.h"
 
 namespace kvopt {
 namespace {
@@ -171,6 +173,7 @@ void WizardPlotData::DropUnavailableDefaults() {
     const ResponseModelUtilities models(investigation_);
     std::set<std::string> available;
     std::set<std::string> availableMixture;
+    std::unordered_map<std::string, int> dropped;
     for (const FactorClass* factor : investigation_->GetVariables()->GetAllFactors()) {
         if (models.IsFactorAvailable(factor, true, false)) {
             available.insert(factor->GetName());
@@ -179,11 +182,13 @@ void WizardPlotData::DropUnavailableDefaults() {
             }
             continue;
         }
-        const auto found = AxisInfo::FindFromName(axisDefaults_, factor->GetName());
-        if (found != axisDefaults_.end()) {
-            axisDefaults_.erase(found);
-        }
+        ++dropped[factor->GetName()];
     }
+    // The first default of the name for each such factor.
+    std::erase_if(axisDefaults_, [&](const std::shared_ptr<AxisInfo>& axis) {
+        const auto found = axis ? dropped.find(axis->GetName()) : dropped.end();
+        return found != dropped.end() && found->second-- > 0;
+    });
     const std::vector<std::shared_ptr<AxisInfo>> source = axisDefaults_;
     AxisInfoVector::PreferAvailableFactors(axisDefaults_, source, available, availableMixture);
 }
@@ -192,6 +197,7 @@ void WizardPlotData::InitConstInfo() {
     const std::vector<float> start = DefaultStart(*investigation_);
     const std::shared_ptr<IniFileSection> ini = IniForReading();
     const IniFactorConstant remembered(*ini);
+    ConstantsIndex constants = IndexConstants();
     const ResponseModelUtilities models(investigation_);
     const std::vector<FactorClass*> factors = investigation_->GetVariables()->GetAllFactors();
     for (std::size_t i = 0; i < factors.size(); ++i) {
@@ -201,15 +207,16 @@ void WizardPlotData::InitConstInfo() {
         }
         const float value = i < start.size() ? start[i] : kNotSetF;
         if (factor.IsQualitative()) {
-            InitQualitativeConstant(factor, value, remembered);
+            InitQualitativeConstant(factor, value, remembered, constants);
         } else {
-            InitQuantitativeConstant(factor, value, remembered);
+            InitQuantitativeConstant(factor, value, remembered, constants);
         }
     }
 }
 
 void WizardPlotData::InitQuantitativeConstant(const FactorClass& factor, float start,
-                                              const IniFactorConstant& remembered) {
+                                              const IniFactorConstant& remembered,
+                                              ConstantsIndex& constants) const {
     const std::string& name = factor.GetName();
     double value =
         start != kNotSetF ? static_cast<double>(start) : remembered.GetConstant(name.c_str());
@@ -219,17 +226,17 @@ void WizardPlotData::InitQuantitativeConstant(const FactorClass& factor, float s
     if (value == kNotSet) {
         return;
     }
-    const int index = FactorConstants::Lookup(constants_.get(), name);
-    if (index >= 0) {
-        constants_[index].FloatValue(value);
+    if (FactorConstants::Constant* known = constants.Find(name)) {
+        known->FloatValue(value);
         return;
     }
-    AddConstant({name, value,
-                 FactorConstants::WhichSetting(*investigation_->GetVariables(), &factor, value)});
+    constants.Add({name, value,
+                   FactorConstants::WhichSetting(*investigation_->GetVariables(), &factor, value)});
 }
 
 void WizardPlotData::InitQualitativeConstant(const FactorClass& factor, float start,
-                                             const IniFactorConstant& remembered) {
+                                             const IniFactorConstant& remembered,
+                                             ConstantsIndex& constants) {
     const std::string& name = factor.GetName();
     std::string setting = NearestSetting(factor, start);
     if (setting.empty()) {
@@ -240,12 +247,11 @@ void WizardPlotData::InitQualitativeConstant(const FactorClass& factor, float st
     if (number <= 0 || std::find(included.begin(), included.end(), number) == included.end()) {
         return;
     }
-    const int index = FactorConstants::Lookup(constants_.get(), name);
-    if (index >= 0) {
-        constants_[index].QualValue(setting);
+    if (FactorConstants::Constant* known = constants.Find(name)) {
+        known->QualValue(setting);
         return;
     }
-    AddConstant({name, setting, FactorConstants::CUSTOM});
+    constants.Add({name, setting, FactorConstants::CUSTOM});
 }
 
 }  // namespace kvopt

@@ -10,6 +10,7 @@
 #include "kvopt/study/variables.h"
 #include "kvopt/text/exceptions.h"
 #include "kvopt/text/not_set.h"
+#include "study/constants_index.h"
 
 namespace kvopt {
 namespace {
@@ -104,13 +105,14 @@ void WizardPlotData::WriteSettings(PlotAxisType type, int set, int numAxes) cons
         }
     }
     IniFactorConstant remembered(ini);
+    const ConstantsIndex constants = IndexConstants();
     for (const FactorClass* factor : investigation_->GetVariables()->GetAllFactors()) {
         if (!IsStored(*factor)) {
             continue;
         }
         const std::string& name = factor->GetName();
-        const int index = FactorConstants::Lookup(constants_.get(), name);
-        const Constant constant = index >= 0 ? constants_[index] : DefaultConstant(*factor);
+        const Constant* known = constants.Find(name);
+        const Constant constant = known ? *known : DefaultConstant(*factor);
         if (IsQuantitative(constant)) {
             ini.SetSection(kConst);
             ini.WriteKey(name.c_str(), constant.FloatValue());
@@ -149,6 +151,7 @@ void WizardPlotData::WriteSection(ConfigurationSection* section, PlotAxisType ty
     }
     child->GetSection(kConstants)->Clear();
     const auto constants = child->GetSection(kConstants);
+    const ConstantsIndex index = IndexConstants();
     int place = 0;
     for (const FactorClass* factor : investigation_->GetVariables()->GetAllFactors()) {
         ++place;
@@ -157,13 +160,13 @@ void WizardPlotData::WriteSection(ConfigurationSection* section, PlotAxisType ty
         }
         const auto entry = constants->GetIndexedSection(kConstant, place);
         entry->WriteKey(kName, factor->GetName());
-        const int index = FactorConstants::Lookup(constants_.get(), factor->GetName());
-        const Constant constant = index >= 0 ? constants_[index] : DefaultConstant(*factor);
+        const Constant* known = index.Find(factor->GetName());
+        const Constant constant = known ? *known : DefaultConstant(*factor);
         if (!IsQuantitative(constant)) {
             entry->WriteKey(kValue, constant.QualValue());
             continue;
         }
-        if (index >= 0) {
+        if (known) {
             entry->WriteKey(kSetting, FactorConstants::SettingName(constant.SettingPos(), nullptr));
         }
         entry->WriteKey(kValue, constant.FloatValue());
@@ -209,6 +212,7 @@ bool WizardPlotData::ReadConstants(const ConfigurationSection& section) {
     const Variables& variables = *investigation_->GetVariables();
     const auto constants = section.GetSection(kConstants);
     const int count = constants ? constants->CountSections(kConstant) : 0;
+    ConstantsIndex index = IndexConstants();
     // What an entry lacks it takes from the entries before it.
     std::string setting;
     std::string text;
@@ -223,15 +227,15 @@ bool WizardPlotData::ReadConstants(const ConfigurationSection& section) {
         if (!factor || !IsStored(*factor)) {
             continue;
         }
-        const int index = FactorConstants::Lookup(constants_.get(), name);
+        Constant* const known = index.Find(name);
         if (factor->IsQualitative()) {
             entry->ReadKey(kValue, text);
-            if (index < 0) {
+            if (!known) {
                 // The setting's target and not the value just read: a new qualitative constant
                 // gets the position text of the last quantitative entry, or nothing.
-                AddConstant({name, setting, FactorConstants::CUSTOM});
+                index.Add({name, setting, FactorConstants::CUSTOM});
             } else if (variables.LegalSetting(name, text)) {
-                constants_[index].QualValue(text);
+                known->QualValue(text);
             }
             continue;
         }
@@ -239,11 +243,11 @@ bool WizardPlotData::ReadConstants(const ConfigurationSection& section) {
         const FactorConstants::SettingType position =
             FactorConstants::CenterType(setting.c_str(), nullptr);
         entry->ReadKey(kValue, value);
-        if (index < 0) {
-            AddConstant({name, value, position});
+        if (!known) {
+            index.Add({name, value, position});
         } else {
-            constants_[index].FloatValue(value);
-            constants_[index].SettingPos() = position;
+            known->FloatValue(value);
+            known->SettingPos() = position;
         }
     }
     return true;

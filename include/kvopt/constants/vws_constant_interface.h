@@ -15,6 +15,7 @@ namespace kvopt {
 class AxisInfo;
 class ConstantsCellRenderer;
 class ConstantsChooser;
+class ConstantsIndex;
 class CWnd;
 class FactorClass;
 class Investigation;
@@ -85,6 +86,10 @@ public:
 
 private:
     void Init(int rows);
+    FactorConstants::SettingType ShowConstant(ConstantsIndex& constants, int column, int row,
+                                              const std::string& factorName);
+    void TakeConstant(ConstantsIndex& constants, int column, int row,
+                      const std::string& factorName) const;
     void SetUpRow(const FactorClass& factor, int row);
     void SetUpList(const FactorClass& factor, int row);
     void CloseRow(int row, FieldDef::FieldType valueType, Colour colour);

@@ -12,6 +12,7 @@
 namespace kvopt {
 
 class ConfigurationSection;
+class ConstantsIndex;
 class FactorClass;
 class IniFactorConstant;
 class IniFileSection;
@@ -107,8 +108,8 @@ protected:
     /// Replaces the defaults by as many empty pointers.
     void CreateAxisDefaults(int count);
 
-    /// Whether the array of constants can take one more.
-    bool HasRoomForConstant() const;
+    /// The array of constants, for a step that goes through all factors.
+    ConstantsIndex IndexConstants() const;
     Investigation* MutableInvestigation() const { return investigation_; }
     /// The ini section, or an empty one that is kept nowhere.
     std::shared_ptr<IniFileSection> IniForReading() const;
@@ -133,11 +134,12 @@ private:
     void DropUnavailableDefaults();
     void InitConstInfo();
     void InitQuantitativeConstant(const FactorClass& factor, float start,
-                                  const IniFactorConstant& remembered);
-    void InitQualitativeConstant(const FactorClass& factor, float start,
-                                 const IniFactorConstant& remembered);
+                                  const IniFactorConstant& remembered,
+                                  ConstantsIndex& constants) const;
+    static void InitQualitativeConstant(const FactorClass& factor, float start,
+                                        const IniFactorConstant& remembered,
+                                        ConstantsIndex& constants);
     void AllocateConstants(int capacity);
-    void AddConstant(const FactorConstants::Constant& constant);
     bool IsStored(const FactorClass& factor) const;
     FactorConstants::Constant DefaultConstant(const FactorClass& factor) const;
     bool ReadAxes(const ConfigurationSection& section, int set, int numAxes);
