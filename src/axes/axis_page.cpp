@@ -140,7 +140,8 @@ void AxisPage::TransferFromPage() {
 
 std::string AxisPage::NameAxis(int axis) const {
     if (HasWindow()) {
-        return EntryOf(axis).name;
+        const CComboBox* list = AxisCombo(axis);
+        return list != nullptr ? TextOf(list) : std::string();
     }
     const AxisInfo* info = Axis(axis);
     return info != nullptr ? info->GetName() : std::string();
@@ -152,7 +153,7 @@ bool AxisPage::CompareAxis(int axis, const std::string& name) const {
 
 bool AxisPage::IsUsedAxis(int axis) const {
     if (HasWindow()) {
-        return !AxisInfo::IsNotUsedName(EntryOf(axis).name);
+        return !AxisInfo::IsNotUsedName(NameAxis(axis));
     }
     const AxisInfo* info = Axis(axis);
     return info != nullptr && info->IsUsed();
