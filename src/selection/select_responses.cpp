@@ -1,6 +1,9 @@
 #include "kvopt/selection/select_responses.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "kvopt/axes/fill_box.h"
@@ -13,17 +16,14 @@
 namespace kvopt {
 namespace {
 
+using NameSet = std::unordered_set<std::string>;
+
 bool Holds(const std::vector<std::string>& names, const std::string& name) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-bool EraseFirst(std::vector<std::string>& names, const std::string& name) {
-    const auto found = std::find(names.begin(), names.end(), name);
-    if (found == names.end()) {
-        return false;
-    }
-    names.erase(found);
-    return true;
+NameSet SetOf(const std::vector<std::string>& names) {
+    return {names.begin(), names.end()};
 }
 
 }  // namespace
@@ -78,6 +78,12 @@ std::vector<std::string> SelectResponses::Universe() const {
     return names;
 }
 
+std::vector<std::string> SelectResponses::AvailableResponses() const {
+    std::vector<std::string> names;
+    mInvestigation->GetAllAvailableResponses(names, StudyType(), false);
+    return names;
+}
+
 std::vector<std::string> SelectResponses::StudySelection() const {
     std::vector<std::string> names;
     if (mInvestigation) {
@@ -86,25 +92,33 @@ std::vector<std::string> SelectResponses::StudySelection() const {
     return names;
 }
 
-void SelectResponses::MoveResponse(const std::string& name, std::vector<std::string>& from,
-                                   std::vector<std::string>& to) const {
-    if (EraseFirst(from, name)) {
-        to.push_back(name);
-    } else if (mInvestigation) {
-        std::vector<std::string> available;
-        mInvestigation->GetAllAvailableResponses(available, StudyType(), false);
-        if (Holds(available, name)) {
-            to.push_back(name);
-        }
-    }
-}
-
 void SelectResponses::MoveResponse(const std::vector<std::string>& names,
                                    std::vector<std::string>& from,
                                    std::vector<std::string>& to) const {
-    for (const std::string& name : names) {
-        MoveResponse(name, from, to);
+    std::unordered_map<std::string, std::size_t> left;
+    for (const std::string& name : from) {
+        ++left[name];
     }
+    std::unordered_map<std::string, std::size_t> taken;
+    for (const std::string& name : names) {
+        const auto found = left.find(name);
+        if (found != left.end() && found->second > 0) {
+            --found->second;
+            ++taken[name];
+            to.push_back(name);
+        } else if (mInvestigation && Holds(AvailableResponses(), name)) {
+            to.push_back(name);
+        }
+    }
+    // Of a name that stands there more than once the first go.
+    std::erase_if(from, [&](const std::string& name) {
+        const auto found = taken.find(name);
+        if (found == taken.end() || found->second == 0) {
+            return false;
+        }
+        --found->second;
+        return true;
+    });
 }
 
 void SelectResponses::RefreshMirror() const {
@@ -115,13 +129,9 @@ void SelectResponses::RefreshMirror() const {
 
 void SelectResponses::SetResponses(const std::vector<std::string>& names) {
     // In lists of its own, since `names` may be one of the two that change.
-    std::vector<std::string> former = mSelected;
     std::vector<std::string> unselected = mUnselected;
+    unselected.insert(unselected.end(), mSelected.begin(), mSelected.end());
     std::vector<std::string> selected;
-    while (!former.empty()) {
-        const std::string first = former.front();
-        MoveResponse(first, former, unselected);
-    }
     MoveResponse(names, unselected, selected);
     mUnselected = std::move(unselected);
     mSelected = std::move(selected);
@@ -142,8 +152,9 @@ void SelectResponses::AssertSelectedResponses(bool all) {
     }
     mUnselected = Universe();
     if (IsSpecial()) {
+        const NameSet universe = SetOf(mUnselected);
         std::erase_if(mSelected,
-                      [&](const std::string& name) { return !Holds(mUnselected, name); });
+                      [&](const std::string& name) { return universe.count(name) == 0; });
     } else {
         mInvestigation->RemoveNonValidResponses(mSelected);
     }
@@ -154,9 +165,8 @@ void SelectResponses::AssertSelectedResponses(bool all) {
             MoveResponse(IsSpecial() ? Universe() : StudySelection(), mUnselected, mSelected);
         }
     }
-    for (const std::string& name : mSelected) {
-        std::erase(mUnselected, name);
-    }
+    const NameSet selected = SetOf(mSelected);
+    std::erase_if(mUnselected, [&](const std::string& name) { return selected.count(name) != 0; });
 }
 
 void SelectResponses::UpdateResponseName(const std::string& oldName, const std::string& newName) {
@@ -174,14 +184,18 @@ void SelectResponses::LoadSettings(const PlotWizardIniSection& section) {
     if (!mInvestigation || count <= 0) {
         return;
     }
+    std::vector<std::string> names;
+    for (int i = 1; i <= count; ++i) {
+        names.push_back(section.GetSelectedResponse(static_cast<unsigned>(i)));
+    }
     mSelected.clear();
     mUnselected = Universe();
-    for (int i = 1; i <= count; ++i) {
-        MoveResponse(section.GetSelectedResponse(static_cast<unsigned>(i)), mUnselected, mSelected);
-    }
+    MoveResponse(names, mUnselected, mSelected);
     if (mSelected.empty()) {
         const std::string first = mInvestigation->GetFirstSelectedResponse(StudyType());
-        if (EraseFirst(mUnselected, first)) {
+        const auto found = std::find(mUnselected.begin(), mUnselected.end(), first);
+        if (found != mUnselected.end()) {
+            mUnselected.erase(found);
             mSelected.push_back(first);
         }
     }

@@ -187,6 +187,13 @@ TEST_F(SelectResponsesTest, AppendsWhatIsTakenBackToTheAvailableNames) {
     EXPECT_THAT(responses.GetUnselectedResponses(), IsEmpty());
 }
 
+TEST_F(SelectResponsesTest, TakesTheFirstOfANameThatIsAvailableMoreThanOnce) {
+    SelectResponses responses({"A"}, {"B", "A", "C", "B", "B"}, "factors", nullptr);
+    responses.SetResponses({"B", "A", "B", "D"});
+    EXPECT_THAT(responses.GetSelectedResponses(), ElementsAre("B", "A", "B"));
+    EXPECT_THAT(responses.GetUnselectedResponses(), ElementsAre("C", "B", "A"));
+}
+
 TEST_F(SelectResponsesTest, KeepsItsMirrorEqualButNotWhenItAsserts) {
     std::vector<std::string> mirror;
     SelectResponses responses({"A"}, {"B"}, "factors", &mirror);

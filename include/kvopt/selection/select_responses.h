@@ -69,9 +69,9 @@ public:
 private:
     SelectResponseBase::ResponseType StudyType() const;
     std::vector<std::string> Universe() const;
+    /// What the study says can be plotted; needs a study.
+    std::vector<std::string> AvailableResponses() const;
     std::vector<std::string> StudySelection() const;
-    void MoveResponse(const std::string& name, std::vector<std::string>& from,
-                      std::vector<std::string>& to) const;
     void MoveResponse(const std::vector<std::string>& names, std::vector<std::string>& from,
                       std::vector<std::string>& to) const;
     void RefreshMirror() const;
