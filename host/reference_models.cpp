@@ -26,12 +26,16 @@ bool ReferenceFitInfo::IsResponseAvailable(const std::string& response, bool fit
 }
 
 ReferenceModels::ReferenceModels(const Investigation* study, const StudyData& data)
-    : ModelQueries(study), data_(data) {
+    : ModelQueries(study),
+      data_(data),
+      hasAnyModel_(std::any_of(data.responses.begin(), data.responses.end(),
+                               [](const StudyResponse& response) { return response.hasModel; })) {
     for (const StudyResponse& response : data.responses) {
         std::set<std::size_t> used;
         for (const ModelTerm& term : ModelTerms(data, response)) {
             used.insert(term.begin(), term.end());
         }
+        places_.emplace(response.name, used_.size());
         used_.push_back(std::move(used));
         auto fit = response.hasModel ? std::make_unique<ModelFit>(data, response) : nullptr;
         fits_.push_back(fit != nullptr && fit->IsFitted() ? std::move(fit) : nullptr);
@@ -44,10 +48,8 @@ ReferenceModels::ReferenceModels(const Investigation* study, const StudyData& da
 ReferenceModels::~ReferenceModels() = default;
 
 std::size_t ReferenceModels::Find(const std::string& response) const {
-    const auto found =
-        std::find_if(data_.responses.begin(), data_.responses.end(),
-                     [&](const StudyResponse& candidate) { return candidate.name == response; });
-    return static_cast<std::size_t>(found - data_.responses.begin());
+    const auto found = places_.find(response);
+    return found == places_.end() ? data_.responses.size() : found->second;
 }
 
 std::vector<std::size_t> ReferenceModels::Sources(std::size_t response) const {
@@ -59,11 +61,6 @@ std::vector<std::size_t> ReferenceModels::Sources(std::size_t response) const {
         sources.push_back(Find(source));
     }
     return sources;
-}
-
-bool ReferenceModels::HasAnyModel() const {
-    return std::any_of(data_.responses.begin(), data_.responses.end(),
-                       [](const StudyResponse& response) { return response.hasModel; });
 }
 
 bool ReferenceModels::Uses(std::size_t response, std::size_t factor) const {
@@ -145,7 +142,7 @@ CFitMethod::FitMethod ReferenceModels::GetFitMethod(bool selectedOnly) const {
 
 bool ReferenceModels::IsFactorAvailable(const FactorClass* factor, bool inModel,
                                         bool fittedOnly) const {
-    if (!HasAnyModel()) {
+    if (!hasAnyModel_) {
         return ModelQueries::IsFactorAvailable(factor, inModel, fittedOnly);
     }
     if (factor == nullptr || factor->index < 1 ||
@@ -171,7 +168,7 @@ bool ReferenceModels::IsFactorAvailable(const FactorClass* factor, bool inModel,
 }
 
 int ReferenceModels::GetUsedCount(CEVar which, int limit) const {
-    if (!HasAnyModel()) {
+    if (!hasAnyModel_) {
         return ModelQueries::GetUsedCount(which, limit);
     }
     int count = 0;
@@ -186,7 +183,7 @@ int ReferenceModels::GetUsedCount(CEVar which, int limit) const {
 }
 
 bool ReferenceModels::IsResponseAvailable(const std::string& response, bool fittedOnly) const {
-    if (!HasAnyModel()) {
+    if (!hasAnyModel_) {
         return ModelQueries::IsResponseAvailable(response, fittedOnly);
     }
     const std::size_t place = Find(response);
@@ -202,7 +199,7 @@ bool ReferenceModels::IsResponseAvailable(const std::string& response, bool fitt
 }
 
 bool ReferenceModels::IsInAnyModel(int factorIndex) const {
-    if (!HasAnyModel()) {
+    if (!hasAnyModel_) {
         return ModelQueries::IsInAnyModel(factorIndex);
     }
     return std::any_of(used_.begin(), used_.end(), [&](const std::set<std::size_t>& used) {

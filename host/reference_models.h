@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "host/mixture.h"
@@ -64,13 +65,14 @@ public:
     bool Uses(std::size_t response, std::size_t factor) const;
 
 private:
-    bool HasAnyModel() const;
     /// The ordinary responses behind a response: itself, or its sources.
     std::vector<std::size_t> Sources(std::size_t response) const;
     /// The place of a response, or their number for an unknown name.
     std::size_t Find(const std::string& response) const;
 
     const StudyData& data_;
+    bool hasAnyModel_;  ///< whether a response is to have a model, fitted or not
+    std::unordered_map<std::string, std::size_t> places_;
     std::vector<std::unique_ptr<ModelFit>> fits_;
     std::vector<std::set<std::size_t>> used_;  ///< factors of each response's own model
     std::vector<std::unique_ptr<FitInfo>> infos_;

@@ -212,11 +212,17 @@ ReferenceResponses::ReferenceResponses(const StudyData& data, const Variables& v
         entry->highLimit = response.highLimit;
         entry->target = response.target;
         pointers_.push_back(entry.get());
+        byName_.emplace(response.name, entry.get());
         responses_.push_back(std::move(entry));
     }
 }
 
 ReferenceResponses::~ReferenceResponses() = default;
+
+ResponseEx* ReferenceResponses::GetResponse(const std::string& name) const {
+    const auto found = byName_.find(name);
+    return found == byName_.end() ? nullptr : found->second;
+}
 
 bool ReferenceConstraints::HasConstraints(std::string_view factor) const {
     return std::any_of(data_.constraints.begin(), data_.constraints.end(),

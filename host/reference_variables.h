@@ -58,11 +58,13 @@ public:
     ~ReferenceResponses() override;
 
     const std::vector<ResponseEx*>& GetResponses() const override { return pointers_; }
+    ResponseEx* GetResponse(const std::string& name) const override;
 
 private:
     std::vector<std::unique_ptr<ResponseClass>> records_;  ///< of those that are no ordinary ones
     std::vector<std::unique_ptr<ResponseEx>> responses_;
     std::vector<ResponseEx*> pointers_;
+    std::unordered_map<std::string, ResponseEx*> byName_;
 };
 
 class ReferenceConstraints final : public ConstraintsInfo {

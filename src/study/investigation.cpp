@@ -1,6 +1,7 @@
 #include "kvopt/study/investigation.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "kvopt/stores.h"
 #include "kvopt/study/design_space_predictor.h"
@@ -19,10 +20,6 @@ namespace {
 constexpr const char* kOptionsSection = "Options";
 
 Investigation* activeInvestigation = nullptr;
-
-bool Holds(const std::vector<std::string>& names, const std::string& name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 }  // namespace
 
@@ -136,9 +133,10 @@ void Investigation::GetSelectedResponses(std::vector<std::string>& responses,
                                          SelectResponseBase::ResponseType type) const {
     std::vector<std::string> available;
     GetAllAvailableResponses(available, type, false);
+    const std::unordered_set<std::string> known(available.begin(), available.end());
     responses.clear();
     for (const std::string& name : defaults_->selected) {
-        if (Holds(available, name)) {
+        if (known.count(name) != 0) {
             responses.push_back(name);
         }
     }

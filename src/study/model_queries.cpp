@@ -61,21 +61,30 @@ bool ModelQueries::IsResponseAvailable(const std::string& response, bool fittedO
     if (investigation_ == nullptr || fittedOnly) {
         return false;
     }
+    if (investigation_->GetResponseManager()->GetResponse(response) != nullptr) {
+        return true;
+    }
     const std::vector<ResponseClass*> responses = investigation_->GetVariables()->GetAllResponses();
-    const bool isOrdinary = std::any_of(
-        responses.begin(), responses.end(),
-        [&](const ResponseClass* candidate) { return candidate->GetName() == response; });
-    return isOrdinary || investigation_->GetResponseManager()->GetResponse(response) != nullptr;
+    return std::any_of(responses.begin(), responses.end(), [&](const ResponseClass* candidate) {
+        return candidate->GetName() == response;
+    });
 }
 
 bool ModelQueries::IsInAnyModel(int factorIndex) const {
     if (investigation_ == nullptr) {
         return false;
     }
-    const std::vector<FactorClass*> factors = investigation_->GetVariables()->GetAllFactors();
-    return std::any_of(factors.begin(), factors.end(), [&](const FactorClass* factor) {
-        return factor->index == factorIndex && IsFactorAvailable(factor, true, false);
-    });
+    const Variables& variables = *investigation_->GetVariables();
+    const auto isIt = [&](const FactorClass* factor) {
+        return factor != nullptr && factor->index == factorIndex &&
+               IsFactorAvailable(factor, true, false);
+    };
+    // Most hosts number their factors as they stand and find one without going through all.
+    if (isIt(variables.GetIndexFactor(factorIndex))) {
+        return true;
+    }
+    const std::vector<FactorClass*> factors = variables.GetAllFactors();
+    return std::any_of(factors.begin(), factors.end(), isIt);
 }
 
 std::shared_ptr<TermInfo> ModelQueries::CreateCompleteModel() const {

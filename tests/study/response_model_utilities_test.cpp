@@ -236,6 +236,20 @@ TEST(ModelQueries, AnswerWithoutAnInvestigation) {
     EXPECT_FALSE(queries.IsFactorAvailable(nullptr, false, false));
 }
 
+TEST(ModelQueries, FindAFactorByItsIndexHoweverTheHostNumbersThem) {
+    FakeStudy study;
+    study.Filler("Sand").index = 1;
+    study.Number("Speed").index = 1;
+    study.Number("Heat").index = 7;
+    study.Number("Time").index = 2;
+    const ModelQueries queries(&study);
+    EXPECT_TRUE(queries.IsInAnyModel(1)) << "the filler is no factor of a model, the other one is";
+    EXPECT_TRUE(queries.IsInAnyModel(2));
+    EXPECT_FALSE(queries.IsInAnyModel(3)) << "a place, but nobody's index";
+    EXPECT_TRUE(queries.IsInAnyModel(7));
+    EXPECT_FALSE(queries.IsInAnyModel(0));
+}
+
 TEST(FitInfo, IsNotFittedAndHidesNothingUnlessTheHostSaysSo) {
     const FitInfo fit;
     const FactorClass factor("Speed", 0.0, 1.0);
