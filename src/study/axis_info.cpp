@@ -1,7 +1,9 @@
 #include "kvopt/study/axis_info.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 #include "kvopt/stores.h"
 #include "kvopt/text.h"
@@ -106,19 +108,22 @@ void AxisInfoVector::PreferAvailableFactors(std::vector<std::shared_ptr<AxisInfo
                                             const std::vector<std::shared_ptr<AxisInfo>>& source,
                                             const std::set<std::string>& available,
                                             const std::set<std::string>& availableMixture) {
-    std::vector<std::shared_ptr<AxisInfo>> ordered(
-        source.empty() ? source.begin() : source.begin() + 1, source.end());
     const auto rank = [&](const std::shared_ptr<AxisInfo>& axis) {
         if (axis == nullptr) {
-            return 2;
+            return std::size_t{2};
         }
         const std::string& name = axis->GetName();
-        return available.count(name) != 0 || availableMixture.count(name) != 0 ? 0 : 1;
+        const bool isAvailable = available.count(name) != 0 || availableMixture.count(name) != 0;
+        return isAvailable ? std::size_t{0} : std::size_t{1};
     };
-    std::stable_sort(ordered.begin(), ordered.end(),
-                     [&rank](const auto& a, const auto& b) { return rank(a) < rank(b); });
+    std::array<std::vector<std::shared_ptr<AxisInfo>>, 3> ranked;
+    for (std::size_t i = 1; i < source.size(); ++i) {
+        ranked[rank(source[i])].push_back(source[i]);
+    }
     axes.assign(1, nullptr);
-    axes.insert(axes.end(), ordered.begin(), ordered.end());
+    for (const std::vector<std::shared_ptr<AxisInfo>>& same : ranked) {
+        axes.insert(axes.end(), same.begin(), same.end());
+    }
 }
 
 }  // namespace kvopt
