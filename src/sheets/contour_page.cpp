@@ -170,20 +170,21 @@ ContourPage::FactorCounts ContourPage::CountFactors() const {
 bool ContourPage::OnInitDialog() {
     MultipleResponsePage::OnInitDialog();
     TransferToPage();
-    OnRbContour();
-    EnablePlotTypes();
+    const FactorCounts counts = CountFactors();
+    ShowType(counts);
+    EnablePlotTypes(counts);
     constraintsCheck_->EnableWindow(pageData_.HaveConstraints());
-    EnableFactorAxisType();
+    OfferAxisTypes(counts);
     if (GetType() != ContourPageData::contour_2D && !TypeButton(GetType())->IsEnabled()) {
         TypeButton(ContourPageData::contour_2D)->SetCheck(true);
-        EnableFactorAxisType();
-        OnRbContour();
+        OfferAxisTypes(counts);
+        ShowType(counts);
     }
     return true;
 }
 
-void ContourPage::EnablePlotTypes() {
-    const auto [m, q, d, filler] = CountFactors();
+void ContourPage::EnablePlotTypes(const FactorCounts& counts) {
+    const auto [m, q, d, filler] = counts;
     bool contour = d > 1 || m >= 3;
     bool contour4D = contour && (d >= 3 || (m >= 3 && d > 0) || q > 0);
     bool surface = d >= 2;
@@ -205,7 +206,11 @@ void ContourPage::EnablePlotTypes() {
 }
 
 void ContourPage::EnableFactorAxisType() {
-    const auto [m, q, d, filler] = CountFactors();
+    OfferAxisTypes(CountFactors());
+}
+
+void ContourPage::OfferAxisTypes(const FactorCounts& counts) {
+    const auto [m, q, d, filler] = counts;
     bool process = false;
     bool mixture = false;
     switch (GetType()) {
@@ -256,6 +261,10 @@ void ContourPage::TransferFromPage() {
 }
 
 void ContourPage::OnRbContour() {
+    ShowType(CountFactors());
+}
+
+void ContourPage::ShowType(const FactorCounts& counts) {
     const ContourPageData::Type type = GetType();
     int most = ContourPageData::miMaxResponses[type];
     if (isDSProbability_) {
@@ -264,7 +273,7 @@ void ContourPage::OnRbContour() {
         most = -1;
     }
     SetMaxSelections(most);
-    EnableFactorAxisType();
+    OfferAxisTypes(counts);
     selectedType_ = type;
     SetHelpTopicID(HelpTopicOf(type));
     pageData_.GetOptions().hasContourLabels = ContourPageData::HasContourLabels(type);

@@ -52,7 +52,9 @@ private:
     };
     FactorCounts CountFactors() const;
     void SelectLimitedResponses();
-    void EnablePlotTypes();
+    void EnablePlotTypes(const FactorCounts& counts);
+    void OfferAxisTypes(const FactorCounts& counts);
+    void ShowType(const FactorCounts& counts);
     void ClearExtraAxes();
     CButton* TypeButton(ContourPageData::Type type) const;
     unsigned HelpTopicOf(int type) const;
