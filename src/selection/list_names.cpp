@@ -6,10 +6,12 @@
 namespace kvopt {
 
 void FillList(CListBox& list, const std::vector<std::string>& names) {
+    list.SetRedraw(false);
     list.ResetContent();
     for (const std::string& name : names) {
         list.AddString(KvStdString::ToWide(name));
     }
+    list.SetRedraw(true);
 }
 
 std::vector<std::string> NamesOf(const CListBox& list) {
