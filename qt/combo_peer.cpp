@@ -38,10 +38,12 @@ bool ComboPeer::eventFilter(QObject* watched, QEvent* event) {
 
 void ComboPeer::Push(WindowChange change) {
     if (change == WindowChange::Items) {
-        combo_.clear();
+        QStringList entries;
         for (int index = 0; index < model_.GetCount(); ++index) {
-            combo_.addItem(ToQt(model_.GetItemText(index)));
+            entries << ToQt(model_.GetItemText(index));
         }
+        combo_.clear();
+        combo_.addItems(entries);
     }
     if (change == WindowChange::Items || change == WindowChange::Selection ||
         change == WindowChange::Text) {

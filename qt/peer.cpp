@@ -58,17 +58,27 @@ void Peer::PushBlocked(WindowChange change) {
             widget_.setEnabled(model_->IsEnabled());
             break;
         case WindowChange::Visible:
-            widget_.setVisible(model_->IsVisible());
+            // A widget that was never hidden comes up with its window; showing it by itself costs.
+            if (widget_.isHidden() == model_->IsVisible()) {
+                widget_.setVisible(model_->IsVisible());
+            }
             break;
         case WindowChange::Focus:
             TakeFocus();
             break;
         default:
             Push(change);
-            widget_.setAccessibleName(ToQt(model_->AccessibleName()));
+            ShowName();
             break;
     }
     pushing_ = outer;
+}
+
+void Peer::ShowName() {
+    const QString name = ToQt(model_->AccessibleName());
+    if (name != widget_.accessibleName()) {
+        widget_.setAccessibleName(name);
+    }
 }
 
 void Peer::TakeFocus() {

@@ -60,6 +60,7 @@ protected:
 
 private:
     void PushBlocked(WindowChange change);
+    void ShowName();
 
     CControl* model_;
     QWidget& widget_;
