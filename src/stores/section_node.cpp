@@ -28,8 +28,8 @@ void AppendComments(std::string_view lines, std::string& comments) {
 
 const StoredKey* SectionNode::FindKey(std::string_view name) const {
     if (keys_.size() > kSearchedKeys) {
-        const auto found = keyTable_.find(std::string(name));
-        return found == keyTable_.end() ? nullptr : &keys_[found->second];
+        const auto found = keyTable_->find(std::string(name));
+        return found == keyTable_->end() ? nullptr : &keys_[found->second];
     }
     const auto found = std::find_if(keys_.begin(), keys_.end(),
                                     [&](const StoredKey& key) { return key.name == name; });
@@ -50,26 +50,34 @@ StoredKey& SectionNode::OpenKey(std::string_view name) {
     }
     keys_.emplace_back().name = name;
     if (keys_.size() == kSearchedKeys + 1) {
+        keyTable_ = std::make_unique<KeyTable>();
         for (std::size_t i = 0; i < keys_.size(); ++i) {
-            keyTable_.emplace(keys_[i].name, i);
+            keyTable_->emplace(keys_[i].name, i);
         }
     } else if (keys_.size() > kSearchedKeys) {
-        keyTable_.emplace(name, keys_.size() - 1);
+        keyTable_->emplace(name, keys_.size() - 1);
     }
     return keys_.back();
 }
 
-SectionNode* SectionNode::FindChild(std::string_view name, int number) const {
-    const auto found = childTable_.find(name);
-    if (found == childTable_.end()) {
+const std::vector<SectionNode*>* SectionNode::ChildrenNamed(std::string_view name) const {
+    if (childTable_ == nullptr) {
         return nullptr;
     }
-    const std::vector<SectionNode*>& sameName = found->second;
-    if (number == 0) {
-        return sameName.front();
+    const auto found = childTable_->find(name);
+    return found == childTable_->end() ? nullptr : &found->second;
+}
+
+SectionNode* SectionNode::FindChild(std::string_view name, int number) const {
+    const std::vector<SectionNode*>* const sameName = ChildrenNamed(name);
+    if (sameName == nullptr) {
+        return nullptr;
     }
-    const auto at = std::lower_bound(sameName.begin(), sameName.end(), number, HasLowerNumber);
-    return at != sameName.end() && (*at)->Number() == number ? *at : nullptr;
+    if (number == 0) {
+        return sameName->front();
+    }
+    const auto at = std::lower_bound(sameName->begin(), sameName->end(), number, HasLowerNumber);
+    return at != sameName->end() && (*at)->Number() == number ? *at : nullptr;
 }
 
 SectionNode& SectionNode::OpenChild(std::string_view name, int number) {
@@ -88,15 +96,18 @@ SectionNode& SectionNode::AdoptChild(std::unique_ptr<SectionNode> child, std::st
     children_.push_back(std::move(child));
     SectionNode* const adopted = children_.back().get();
     // The table's view of a name is that of the first child with it, which outlives the entry.
-    std::vector<SectionNode*>& sameName = childTable_[adopted->name_];
+    if (childTable_ == nullptr) {
+        childTable_ = std::make_unique<ChildTable>();
+    }
+    std::vector<SectionNode*>& sameName = (*childTable_)[adopted->name_];
     sameName.insert(std::lower_bound(sameName.begin(), sameName.end(), number, HasLowerNumber),
                     adopted);
     return *adopted;
 }
 
 int SectionNode::CountChildren(std::string_view name) const {
-    const auto found = childTable_.find(name);
-    return found == childTable_.end() ? 0 : static_cast<int>(found->second.size());
+    const std::vector<SectionNode*>* const sameName = ChildrenNamed(name);
+    return sameName == nullptr ? 0 : static_cast<int>(sameName->size());
 }
 
 void SectionNode::ClearKeys() {
@@ -105,16 +116,18 @@ void SectionNode::ClearKeys() {
         linesBelow += key.linesAbove;
     }
     keys_.clear();
-    keyTable_.clear();
+    keyTable_.reset();
 }
 
 void SectionNode::ClearChildren() {
-    childTable_.clear();
+    childTable_.reset();
     children_.clear();
 }
 
 void SectionNode::RemoveChildren(std::string_view name) {
-    childTable_.erase(name);
+    if (childTable_ != nullptr) {
+        childTable_->erase(name);
+    }
     children_.erase(std::remove_if(children_.begin(), children_.end(),
                                    [&](const std::unique_ptr<SectionNode>& child) {
                                        return child->Name() == name;

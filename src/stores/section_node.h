@@ -82,14 +82,21 @@ public:
     int place = 0;
 
 private:
+    /// In the order of their numbers; null when there is none.
+    const std::vector<SectionNode*>* ChildrenNamed(std::string_view name) const;
+
     std::string name_;
     int number_;
     SectionNode* parent_;
     std::vector<StoredKey> keys_;
     std::vector<std::unique_ptr<SectionNode>> children_;
-    // Small sections are searched from end to end; the table is filled when one outgrows that.
-    std::unordered_map<std::string, std::size_t> keyTable_;
-    std::unordered_map<std::string_view, std::vector<SectionNode*>> childTable_;
+
+    using KeyTable = std::unordered_map<std::string, std::size_t>;
+    using ChildTable = std::unordered_map<std::string_view, std::vector<SectionNode*>>;
+    // Most sections are small and many: their keys are searched from end to end, and neither table
+    // is there before it is needed.
+    std::unique_ptr<KeyTable> keyTable_;
+    std::unique_ptr<ChildTable> childTable_;
 };
 
 }  // namespace kvopt
