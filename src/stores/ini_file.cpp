@@ -81,7 +81,7 @@ void IniFile::BeAtOneWith(Text onDisk, const FileStamp& stamp) {
 void IniFile::LoadOrSetAside() {
     FileStamp stamp;
     Text text = ReadText(stamp);
-    if (!isBlocked_ && onDisk_ != nullptr && *onDisk_ == *text) {
+    if (!isBlocked_ && *onDisk_ == *text) {
         stamp_ = stamp;
         return;
     }

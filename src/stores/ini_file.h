@@ -46,7 +46,8 @@ private:
     // The present tree points into the text that was read last; the file may since have been
     // written.
     Text text_;
-    Text onDisk_;
+    // No file and an empty one are the same.
+    Text onDisk_ = std::make_shared<const std::string>();
     std::string_view tail_;
     // A file that could neither be parsed nor set aside yet: nothing is written over it.
     bool isBlocked_ = false;
