@@ -5,15 +5,10 @@
 #include "bench/bench_study.h"
 #include "bench/make_axis_page.h"
 #include "bench/sizes.h"
-#include "kvopt/constants.h"
-#include "kvopt/platform.h"
-#include "kvopt/scripted.h"
+#include "bench/slider_drag.h"
 
 namespace kvopt::bench {
 namespace {
-
-constexpr int kSecondAxisList = 6037;
-constexpr int kSliderColumn = 3;
 
 std::unique_ptr<Contour2DAxisPage> OpenPage(ReferenceStudy& study, ContourPlotData& plot) {
     auto page = MakeAxisPage(study, plot);
@@ -46,14 +41,11 @@ BENCHMARK(OpenAxisPage)->Apply(ForEachSize);
 
 void ChangeAxis(benchmark::State& state) {
     const AxisPageInUse use(state.range(0));
-    auto& list = *use.page->Item<CComboBox>(kSecondAxisList);
-    int index = list.GetCount() - 1;
     for (auto _ : state) {
-        if (!list.UserPick(index)) {
+        if (!PickAnotherFactor(*use.page)) {
             state.SkipWithError("the list took no other factor");
             break;
         }
-        index = index == list.GetCount() - 1 ? index - 1 : list.GetCount() - 1;
     }
     state.SetComplexityN(state.range(0));
 }
@@ -61,26 +53,14 @@ BENCHMARK(ChangeAxis)->Apply(ForEachSize);
 
 void SliderStep(benchmark::State& state) {
     const AxisPageInUse use(state.range(0));
-    VWSConstantInterface& grid = use.page->Grid();
-    const CPoint cell{kSliderColumn, 1};
-    const CRect rect = NominalCellRect(grid, cell);
-    const CellSlider slider = SliderOfCell(grid, cell).value();
-    const CPoint places[] = {CellPixelOfValue(grid, cell, slider, 40),
-                             CellPixelOfValue(grid, cell, slider, 60)};
-    const CPoint thumb = CellPixelOfValue(grid, cell, slider, 50);
-    grid.MouseMove(thumb, cell, rect);
-    grid.LButtonDown(thumb, cell);
-    const std::string before = grid.GetCellText(kSliderColumn - 1, 1);
-    std::size_t next = 0;
+    SliderDrag drag(use.page->Grid());
+    const std::string before = drag.Value();
     for (auto _ : state) {
-        grid.MouseMove(places[next], cell, rect);
-        next = 1 - next;
+        drag.Step();
     }
-    if (grid.GetCellText(kSliderColumn - 1, 1) == before) {
+    if (drag.Value() == before) {
         state.SkipWithError("the slider did not follow");
     }
-    grid.LButtonUp(thumb, cell);
-    Desktop::Instance().StopTimer(&grid);
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(SliderStep)->Apply(ForEachSize);

@@ -4,6 +4,11 @@
 
 namespace kvopt::bench {
 
+/// What a program does that has no store: writes a text straight into its file, flushes it to disk
+/// and closes it. Throws where that fails, as reading does.
+void WriteFile(const std::string& path, const std::string& text);
+std::string ReadFile(const std::string& path);
+
 /// A folder for the files of one benchmark, gone with this object. It lies in the folder that
 /// KVOPT_BENCH_FOLDER names, else in the one for temporary files, which may be no disk.
 class BenchFolder {

@@ -32,6 +32,11 @@ std::int64_t FlushSwitch::FlushesMade() const {
     return flushesMade - start_;
 }
 
+void CountFlushes(benchmark::State& state, const FlushSwitch& flushSwitch) {
+    state.counters["flushes"] = benchmark::Counter(static_cast<double>(flushSwitch.FlushesMade()),
+                                                   benchmark::Counter::kAvgIterations);
+}
+
 }  // namespace kvopt::bench
 
 // The program's own functions come before those of the C library, for the libraries too. So no

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <cstdint>
 
 namespace kvopt::bench {
@@ -22,5 +24,8 @@ private:
     bool before_;
     std::int64_t start_;
 };
+
+/// Adds the column "flushes" to a row: how many were made for each iteration.
+void CountFlushes(benchmark::State& state, const FlushSwitch& flushSwitch);
 
 }  // namespace kvopt::bench

@@ -53,8 +53,7 @@ void WriteIniFile(benchmark::State& state, Flush flush) {
     if (Store::Read(path, content) != SumOf(content)) {
         state.SkipWithError("the file does not hold what was written");
     }
-    state.counters["flushes"] = benchmark::Counter(static_cast<double>(flushSwitch.FlushesMade()),
-                                                   benchmark::Counter::kAvgIterations);
+    CountFlushes(state, flushSwitch);
     state.SetComplexityN(state.range(0));
 }
 

@@ -30,6 +30,7 @@ void WritePlotSettings(benchmark::State& state, Flush flush) {
         plot.reset();
         state.ResumeTiming();
     }
+    CountFlushes(state, flushSwitch);
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK_CAPTURE(WritePlotSettings, flushed, Flush::ToDisk)->Apply(ForEachSizeByTheClock);

@@ -1,12 +1,12 @@
-// The tree of a saved plot to its text and back with bare pugixml: the same names, types and
-// values, as attributes.
+// The tree of a saved plot with bare pugixml: the same names, types and values, as attributes.
 
 #include <nlohmann/json.hpp>
 #include <pugixml.hpp>
 #include <sstream>
+#include <stdexcept>
 
 #include "bench/saved_tree.h"
-#include "bench/sizes.h"
+#include "bench/tree_library.h"
 
 namespace kvopt::bench {
 namespace {
@@ -30,40 +30,32 @@ void AddSection(pugi::xml_node node, const nlohmann::json& section) {
     }
 }
 
-void FillTree(pugi::xml_document& tree, int factors) {
-    AddSection(tree.append_child("section"), nlohmann::json::parse(SavedTreeOf(factors).Text()));
-}
+struct PugixmlTree {
+    using Tree = pugi::xml_document;
 
-std::string Print(const pugi::xml_document& tree) {
-    std::ostringstream text;
-    tree.save(text, " ");
-    return text.str();
-}
-
-void PrintTreeWithPugixml(benchmark::State& state) {
-    pugi::xml_document tree;
-    FillTree(tree, static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(Print(tree));
+    static Tree Make(int factors) {
+        Tree tree;
+        AddSection(tree.append_child("section"),
+                   nlohmann::json::parse(SavedTreeOf(factors).Text()));
+        return tree;
     }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(PrintTreeWithPugixml)->Name("PrintTree/pugixml")->Apply(ForEachSize);
-
-void ParseTreeWithPugixml(benchmark::State& state) {
-    pugi::xml_document tree;
-    FillTree(tree, static_cast<int>(state.range(0)));
-    const std::string text = Print(tree);
-    for (auto _ : state) {
-        pugi::xml_document read;
-        if (!read.load_buffer(text.data(), text.size())) {
-            state.SkipWithError("the tree was not read");
-            break;
+    static std::string Print(const Tree& tree) {
+        std::ostringstream text;
+        tree.save(text, " ");
+        return text.str();
+    }
+    static Tree Parse(const std::string& text) {
+        Tree tree;
+        if (!tree.load_buffer(text.data(), text.size())) {
+            throw std::runtime_error("the tree was not read");
         }
+        return tree;
     }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(ParseTreeWithPugixml)->Name("ParseTree/pugixml")->Apply(ForEachSize);
+    static void Save(const Tree& tree, const std::string& path) { WriteFile(path, Print(tree)); }
+    static Tree Load(const std::string& path) { return Parse(ReadFile(path)); }
+};
+
+[[maybe_unused]] const bool isAdded = AddTreeLibrary<PugixmlTree>("pugixml");
 
 }  // namespace
 }  // namespace kvopt::bench

@@ -1,5 +1,6 @@
 // Opening a page in a real window, offscreen, beside a dialog of the same widgets made by hand. The
-// time is that from the call to the end of the first painting.
+// time is that from the call to the end of the first painting. Then changes in the window of the
+// axis page, from what the user does to the end of the painting that shows it.
 
 #include <functional>
 
@@ -8,6 +9,7 @@
 #include "bench/first_paint.h"
 #include "bench/make_axis_page.h"
 #include "bench/sizes.h"
+#include "bench/slider_drag.h"
 #include "kvopt/platform.h"
 #include "kvopt/qt.h"
 #include "kvopt/sheets.h"
@@ -77,6 +79,38 @@ void PaintBareAxisPage(benchmark::State& state) {
     TimeFirstPaint(state, [&] { RunBareAxisPage(names); });
 }
 BENCHMARK(PaintBareAxisPage)->Name("PaintAxisPage/bare_Qt")->Apply(ForEachSizeTimedByHand);
+
+/// Of one change after the other in the window of an axis page; `next` makes it.
+void TimeChanges(benchmark::State& state,
+                 const std::function<std::function<void()>(Contour2DAxisPage&)>& prepare) {
+    ReferenceStudy& study = StudyOf(static_cast<int>(state.range(0)));
+    const auto plot = PlotOf(study);
+    const auto page = MakeAxisPage(study, *plot);
+    QtDesktop desktop;
+    Desktop* const before = Desktop::Install(&desktop);
+    RunPainted([&] { RunPage(*page); },
+               [&] {
+                   const std::function<void()> next = prepare(*page);
+                   for (auto _ : state) {
+                       state.SetIterationTime(SecondsToNextPaint(next));
+                   }
+               });
+    Desktop::Install(before);
+    state.SetComplexityN(state.range(0));
+}
+
+void ChangeAxisInWindow(benchmark::State& state) {
+    TimeChanges(state,
+                [](Contour2DAxisPage& page) { return [&page] { PickAnotherFactor(page); }; });
+}
+BENCHMARK(ChangeAxisInWindow)->Apply(ForEachSizeTimedByHand);
+
+void SliderStepInWindow(benchmark::State& state) {
+    TimeChanges(state, [](Contour2DAxisPage& page) {
+        return [drag = std::make_shared<SliderDrag>(page.Grid())] { drag->Step(); };
+    });
+}
+BENCHMARK(SliderStepInWindow)->Apply(ForEachSizeTimedByHand);
 
 }  // namespace
 }  // namespace kvopt::bench

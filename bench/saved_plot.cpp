@@ -25,8 +25,7 @@ void WriteSavedPlot(benchmark::State& state, Flush flush) {
         state.ResumeTiming();
         SavePlot(*plot, path);
     }
-    state.counters["flushes"] = benchmark::Counter(static_cast<double>(flushSwitch.FlushesMade()),
-                                                   benchmark::Counter::kAvgIterations);
+    CountFlushes(state, flushSwitch);
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK_CAPTURE(WriteSavedPlot, flushed, Flush::ToDisk)->Apply(ForEachSizeByTheClock);

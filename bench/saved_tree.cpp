@@ -1,11 +1,12 @@
-// The tree of a saved plot to its text and back, beside bare nlohmann-json on the same text.
+// The tree of a saved plot to its text and back, and through a file, beside bare nlohmann-json on
+// the same text.
 
 #include "bench/saved_tree.h"
 
 #include <nlohmann/json.hpp>
 
 #include "bench/bench_study.h"
-#include "bench/sizes.h"
+#include "bench/tree_library.h"
 
 namespace kvopt::bench {
 
@@ -17,41 +18,30 @@ ConfigurationStore SavedTreeOf(int factors) {
 
 namespace {
 
-void PrintTree(benchmark::State& state) {
-    const ConfigurationStore tree = SavedTreeOf(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(tree.Text());
-    }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(PrintTree)->Name("PrintTree/kvopt")->Apply(ForEachSize);
+struct OwnTree {
+    using Tree = ConfigurationStore;
 
-void PrintTreeWithNlohmann(benchmark::State& state) {
-    const auto tree = nlohmann::json::parse(SavedTreeOf(static_cast<int>(state.range(0))).Text());
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(tree.dump(1));
+    static Tree Make(int factors) { return SavedTreeOf(factors); }
+    static std::string Print(const Tree& tree) { return tree.Text(); }
+    static Tree Parse(const std::string& text) {
+        return ConfigurationStore::Parse(text, "plot.json");
     }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(PrintTreeWithNlohmann)->Name("PrintTree/nlohmann-json")->Apply(ForEachSize);
+    static void Save(Tree& tree, const std::string& path) { tree.Save(path); }
+    static Tree Load(const std::string& path) { return ConfigurationStore::Load(path); }
+};
 
-void ParseTree(benchmark::State& state) {
-    const std::string text = SavedTreeOf(static_cast<int>(state.range(0))).Text();
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(ConfigurationStore::Parse(text, "plot.json"));
-    }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(ParseTree)->Name("ParseTree/kvopt")->Apply(ForEachSize);
+struct NlohmannTree {
+    using Tree = nlohmann::json;
 
-void ParseTreeWithNlohmann(benchmark::State& state) {
-    const std::string text = SavedTreeOf(static_cast<int>(state.range(0))).Text();
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(nlohmann::json::parse(text));
-    }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(ParseTreeWithNlohmann)->Name("ParseTree/nlohmann-json")->Apply(ForEachSize);
+    static Tree Make(int factors) { return Parse(SavedTreeOf(factors).Text()); }
+    static std::string Print(const Tree& tree) { return tree.dump(1); }
+    static Tree Parse(const std::string& text) { return nlohmann::json::parse(text); }
+    static void Save(const Tree& tree, const std::string& path) { WriteFile(path, Print(tree)); }
+    static Tree Load(const std::string& path) { return Parse(ReadFile(path)); }
+};
+
+[[maybe_unused]] const bool areAdded =
+    AddTreeLibrary<OwnTree>("kvopt") && AddTreeLibrary<NlohmannTree>("nlohmann-json");
 
 }  // namespace
 }  // namespace kvopt::bench
