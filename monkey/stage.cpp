@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <map>
 #include <stdexcept>
 #include <utility>
 
@@ -26,6 +27,14 @@ std::filesystem::path MakeFolder() {
     return name;
 }
 
+/// Each file is read once.
+const StudyData& DataOf(const std::string& studyFile) {
+    static std::map<std::string, StudyData> known;
+    const auto found = known.find(studyFile);
+    return found != known.end() ? found->second
+                                : known.emplace(studyFile, ReadStudyFile(studyFile)).first->second;
+}
+
 }  // namespace
 
 Stage::Stage(const std::string& studyFile)
@@ -35,8 +44,7 @@ Stage::Stage(const std::string& studyFile)
           IniFileFactory::Instance()->GetIniFile(FileOf("profile.ini"), "")))),
       formerRegistry_(Registry::Install(std::make_shared<Registry>(
           IniFileFactory::Instance()->GetIniFile(FileOf("registry.ini"), "")))),
-      study_(LoadStudy(studyFile)) {
-    study_->SetIniFileName(FileOf("study.ini"));
+      study_(std::make_unique<ReferenceStudy>(DataOf(studyFile), FileOf("study.ini"))) {
     Investigation::SetActiveInvestigation(study_.get());
 }
 
