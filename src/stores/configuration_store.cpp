@@ -78,10 +78,10 @@ private:
         try {
             json::Parse(text, path);
         } catch (const FileFormatError& unreadable) {
-            SetAsideFile file = SetAsideAndWrite(*layer_, path, text, tree);
-            SetFile(fileName, file.stamp);
+            std::string movedTo = SetAsideAndWrite(*layer_, path, text, tree);
+            SetFile(fileName, {});
             TellStoreTrouble(
-                {StoreTrouble::Kind::SetAside, path, std::move(file.movedTo), unreadable.what()});
+                {StoreTrouble::Kind::SetAside, path, std::move(movedTo), unreadable.what()});
             return;
         }
         SetFile(fileName, WriteFileAtomically(*layer_, path, tree));
@@ -91,9 +91,7 @@ private:
                   const FileFormatError& unreadable) {
         StoreTrouble trouble{StoreTrouble::Kind::SetAside, path, "", unreadable.what()};
         try {
-            SetAsideFile file = SetAsideAndWrite(*layer_, path, text, json::Print(Root()));
-            stamp_ = file.stamp;
-            trouble.movedTo = std::move(file.movedTo);
+            trouble.movedTo = SetAsideAndWrite(*layer_, path, text, json::Print(Root()));
         } catch (const FileError& error) {
             trouble.reason += "; " + error.Reason();
         }
@@ -102,7 +100,7 @@ private:
 
     std::shared_ptr<FileLayer> layer_;
     std::string fileName_;
-    // Of the file as this store read or wrote it last.
+    // Of the file as this store read or wrote it last; none where it has to look again.
     FileStamp stamp_;
 };
 

@@ -72,7 +72,7 @@ bool LookAt(FileLayer& layer, const std::string& path, struct stat& status) {
     if (layer.Status(path, status) == 0) {
         return true;
     }
-    if (errno != ENOENT && errno != ENOTDIR) {
+    if (errno != ENOENT) {
         Fail(path, "cannot be looked at");
     }
     return false;
@@ -196,8 +196,7 @@ std::string ResolvePath(const std::string& fileName) {
     // A link whose target is not there yet is followed too: the target is what will be made.
     constexpr int kMostLinks = 40;
     for (int i = 0; i < kMostLinks && fs::is_symlink(path, error); ++i) {
-        const fs::path target = fs::read_symlink(path, error);
-        path = target.is_absolute() ? target : path.parent_path() / target;
+        path = path.parent_path() / fs::read_symlink(path, error);
     }
     const fs::path folder = fs::canonical(path.parent_path(), error);
     return (error ? path : folder / path.filename()).string();
@@ -282,13 +281,13 @@ FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path, std::st
     }
 }
 
-SetAsideFile SetAsideAndWrite(FileLayer& layer, const std::string& path, std::string_view old,
-                              std::string_view content) {
+std::string SetAsideAndWrite(FileLayer& layer, const std::string& path, std::string_view old,
+                             std::string_view content) {
     const FileStamp before = StampOf(layer, path);
     std::string movedTo = KeepAside(layer, path, old);
     try {
-        const FileStamp stamp = WriteFileAtomically(layer, path, content);
-        return {std::move(movedTo), stamp};
+        WriteFileAtomically(layer, path, content);
+        return movedTo;
     } catch (const FileError&) {
         // Its second name goes only where the old file still has its first one.
         if (StampOf(layer, path) == before) {

@@ -44,16 +44,11 @@ bool ReadWholeFile(FileLayer& layer, const std::string& path, std::string& conte
 /// path must be a resolved one. Gives the stamp of the new file.
 FileStamp WriteFileAtomically(FileLayer& layer, const std::string& path, std::string_view content);
 
-/// Where an old file went, and the stamp of the one that stands in its place.
-struct SetAsideFile {
-    std::string movedTo;
-    FileStamp stamp;
-};
-
 /// Puts the old file under the first free of the names "FILE.unreadable-1", "-2", ... and a new one
-/// in its place. At no moment is there no file under the path. `old` is what the file holds.
-SetAsideFile SetAsideAndWrite(FileLayer& layer, const std::string& path, std::string_view old,
-                              std::string_view content);
+/// in its place. At no moment is there no file under the path. `old` is what the file holds. Gives
+/// the name that it got.
+std::string SetAsideAndWrite(FileLayer& layer, const std::string& path, std::string_view old,
+                             std::string_view content);
 
 /// Holds the lock on a file that this library's processes take before they read it in order to
 /// write it. Makes an empty file where there is none, since the lock is the file's own. Waits up to

@@ -19,7 +19,7 @@ IniFile::~IniFile() {
 }
 
 void IniFile::Refresh() {
-    if (path_.empty() || !HasFileChanged()) {
+    if (path_.empty() || StampOf(*layer_, path_) == stamp_) {
         return;
     }
     FileStamp stamp;
@@ -35,8 +35,8 @@ void IniFile::Refresh() {
             LoadOrSetAside();
         } catch (const FileError& error) {
             Use(text, ini::ParseWhatIsReadable(*text));
-            BeAtOneWith(std::move(text), stamp);
-            isBlocked_ = true;
+            onDisk_ = nullptr;
+            stamp_ = stamp;
             troubles_.push_back({StoreTrouble::Kind::SetAside, path_, "",
                                  std::string(unreadable.what()) + "; " + error.Reason()});
         }
@@ -49,12 +49,6 @@ void IniFile::TellTroubles() {
     for (const StoreTrouble& trouble : troubles) {
         TellStoreTrouble(trouble);
     }
-}
-
-// No file and an empty one are the same; the lock makes the one of the other.
-bool IniFile::HasFileChanged() const {
-    const FileStamp stamp = StampOf(*layer_, path_);
-    return stamp != stamp_ && (stamp.size != 0 || stamp_.size != 0);
 }
 
 IniFile::Text IniFile::ReadText(FileStamp& stamp) const {
@@ -73,7 +67,6 @@ void IniFile::Use(Text text, ini::Document document) {
 void IniFile::BeAtOneWith(Text onDisk, const FileStamp& stamp) {
     onDisk_ = std::move(onDisk);
     stamp_ = stamp;
-    isBlocked_ = false;
 }
 
 // Under the lock. The stamp is not asked: two writes within one tick of the system's clock may
@@ -81,8 +74,7 @@ void IniFile::BeAtOneWith(Text onDisk, const FileStamp& stamp) {
 void IniFile::LoadOrSetAside() {
     FileStamp stamp;
     Text text = ReadText(stamp);
-    if (!isBlocked_ && *onDisk_ == *text) {
-        stamp_ = stamp;
+    if (onDisk_ != nullptr && *onDisk_ == *text) {
         return;
     }
     try {
@@ -91,11 +83,11 @@ void IniFile::LoadOrSetAside() {
     } catch (const FileFormatError& unreadable) {
         ini::Document readable = ini::ParseWhatIsReadable(*text);
         Text kept = std::make_shared<const std::string>(ini::Print(*readable.root, readable.tail));
-        SetAsideFile file = SetAsideAndWrite(*layer_, path_, *text, *kept);
+        std::string movedTo = SetAsideAndWrite(*layer_, path_, *text, *kept);
         Use(std::move(text), std::move(readable));
-        BeAtOneWith(std::move(kept), file.stamp);
+        BeAtOneWith(std::move(kept), {});
         troubles_.push_back(
-            {StoreTrouble::Kind::SetAside, path_, std::move(file.movedTo), unreadable.what()});
+            {StoreTrouble::Kind::SetAside, path_, std::move(movedTo), unreadable.what()});
     }
 }
 

@@ -32,7 +32,6 @@ public:
 private:
     using Text = std::shared_ptr<const std::string>;
 
-    bool HasFileChanged() const;
     Text ReadText(FileStamp& stamp) const;
     void Use(Text text, ini::Document document);
     void BeAtOneWith(Text onDisk, const FileStamp& stamp);
@@ -46,11 +45,10 @@ private:
     // The present tree points into the text that was read last; the file may since have been
     // written.
     Text text_;
-    // No file and an empty one are the same.
+    // No file and an empty one are the same. Null for a file that could neither be parsed nor set
+    // aside yet: nothing is written over it.
     Text onDisk_ = std::make_shared<const std::string>();
     std::string_view tail_;
-    // A file that could neither be parsed nor set aside yet: nothing is written over it.
-    bool isBlocked_ = false;
     // Told when the lock is released: the handler may show a box and take its time.
     std::vector<StoreTrouble> troubles_;
     // What the handler was told last of a failed write, so that it is not told again at each flush.

@@ -57,23 +57,20 @@ void AppendEscaped(std::string& text, std::string_view raw, const PlainBytes& pl
             ++i;
             continue;
         }
-        std::size_t length = 1;
         if (static_cast<unsigned char>(c) >= 0x80) {
             const std::string_view rest = raw.substr(i);
-            const utf8::Character character = utf8::Decode(rest);
+            const std::size_t length = utf8::Decode(rest).length;
             const bool isMark =
                 escapeMarks && rest.substr(0, kByteOrderMark.size()) == kByteOrderMark;
-            if (character.length > 0 && !isMark) {
-                i += character.length;
+            if (length > 0 && !isMark) {
+                i += length;
                 continue;
             }
-            length = isMark ? kByteOrderMark.size() : 1;
         }
+        // Without its first byte the rest of a mark is no UTF-8, and is escaped in its turn.
         text.append(raw, copied, i - copied);
-        for (const char byte : raw.substr(i, length)) {
-            AppendEscape(text, byte);
-        }
-        i += length;
+        AppendEscape(text, c);
+        ++i;
         copied = i;
     }
     text.append(raw, copied, size - copied);
@@ -283,16 +280,15 @@ struct Extent {
 // or else at the place given.
 Extent Place(const SectionNode& section, int otherwise, std::vector<Placed>& sections) {
     const std::size_t index = sections.size();
-    const bool isRoot = section.Parent() == nullptr;
-    const bool isPrinted =
-        !isRoot && (section.hasHeader || section.isNew || !section.Keys().empty());
+    const bool isPrinted = section.Parent() != nullptr &&
+                           (section.hasHeader || section.isNew || !section.Keys().empty());
     if (isPrinted) {
         sections.push_back({&section, section.place});
     }
     Extent extent;
     extent.Add(section.place);
     for (const std::unique_ptr<SectionNode>& child : section.Children()) {
-        const int beside = isRoot || extent.last == 0 ? otherwise : extent.last;
+        const int beside = extent.last == 0 ? otherwise : extent.last;
         const Extent inside = Place(*child, beside, sections);
         extent.Add(inside.first);
         extent.Add(inside.last);

@@ -75,7 +75,7 @@ public:
 
     // Ends what was begun.
     std::unique_ptr<SectionNode> TakeWhatIsThere() {
-        while (root_ == nullptr && !frames_.empty()) {
+        while (!frames_.empty()) {
             Frame frame = std::move(frames_.back());
             frames_.pop_back();
             if (frame.place == Place::Section && frame.name && !IsTaken(frame)) {
@@ -187,10 +187,9 @@ public:
     bool start_array(std::size_t /*size*/) {
         Frame* const frame = Top();
         Frame next;
-        if (frame != nullptr && frame->section != nullptr && frame->member == kKeysMember) {
+        if (frame != nullptr && frame->member == kKeysMember) {
             next.place = Place::Keys;
-        } else if (frame != nullptr && frame->section != nullptr &&
-                   frame->member == kSectionsMember) {
+        } else if (frame != nullptr && frame->member == kSectionsMember) {
             next.place = Place::Sections;
         } else if (frame != nullptr && frame->place == Place::Keys) {
             next.place = Place::Key;
