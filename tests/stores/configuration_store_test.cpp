@@ -296,6 +296,23 @@ TEST(ConfigurationStore, AFlushWithoutChangesWritesNothing) {
     EXPECT_TRUE(folder.Names().empty());
 }
 
+TEST(ConfigurationStore, SavesAgainWhereItsFileIsGoneOrEmptyByThen) {
+    const test::TemporaryFolder folder;
+    const test::TroubleRecorder recorder;
+    const std::string file = folder.File("plot.json");
+    ConfigurationStore store;
+    store.Save(file);
+    std::filesystem::remove(file);
+    for (const int value : {1, 2}) {
+        store.Root()->WriteKey("Key", value);
+        store.Root()->Flush();
+        EXPECT_EQ(test::Slurp(file), store.Text());
+        test::Spill(file, "");
+    }
+    EXPECT_TRUE(recorder.troubles.empty());
+    EXPECT_THAT(folder.Names(), ElementsAre("plot.json")) << "nothing was set aside";
+}
+
 TEST(ConfigurationStore, CopiesShareOneTree) {
     ConfigurationStore store;
     ConfigurationStore copy = store;

@@ -161,6 +161,126 @@ TEST_F(IniFileFaults, FlushesTheFileBeforeTheRenameAndItsFolderAfterwards) {
         << "the last close gives the lock back";
 }
 
+// Fails at the folder of a file: when it is opened, or when it is flushed.
+class FolderLayer : public FileLayer {
+public:
+    FolderLayer(const char* operation, int error) : operation_(operation), error_(error) {}
+
+    int Open(const std::string& path, int flags, mode_t mode) override {
+        const bool isFolder = (flags & O_DIRECTORY) != 0;
+        if (isFolder && operation_ == "Open") {
+            errno = error_;
+            return -1;
+        }
+        const int file = FileLayer::Open(path, flags, mode);
+        folder_ = isFolder ? file : folder_;
+        return file;
+    }
+    int Sync(int file) override {
+        if (file != folder_ || operation_ != "Sync") {
+            return FileLayer::Sync(file);
+        }
+        errno = error_;
+        return -1;
+    }
+    int Close(int file) override {
+        folder_ = file == folder_ ? -1 : folder_;
+        return FileLayer::Close(file);
+    }
+
+private:
+    std::string operation_;
+    int error_;
+    int folder_ = -1;
+};
+
+TEST_F(IniFileFaults, AFolderThatCannotBeFlushedAtAllIsNoTrouble) {
+    for (const Fault& fault : {Fault{"Open", EACCES}, Fault{"Sync", EINVAL}}) {
+        test::Spill(file_, kOld);
+        IniFileFactory(std::make_shared<FolderLayer>(fault.operation, fault.error))
+            .GetIniFile(file_, "A")
+            ->WriteKey("Key", 2);
+        EXPECT_EQ(test::Slurp(file_), kNew);
+        EXPECT_TRUE(recorder_.troubles.empty()) << fault.operation;
+    }
+    IniFileFactory(std::make_shared<FolderLayer>("Sync", EIO))
+        .GetIniFile(file_, "A")
+        ->WriteKey("Key", 3);
+    ASSERT_EQ(recorder_.troubles.size(), 1U);
+    EXPECT_THAT(recorder_.troubles.front().reason, HasSubstr("the folder cannot be flushed"));
+}
+
+// The writer that is waited for puts a new file under the name, with a lock of its own.
+TEST_F(IniFileFaults, TheLockIsTakenAnewWhereAnotherFileStandsUnderTheNameByThen) {
+    class ReplacingLayer : public FileLayer {
+    public:
+        explicit ReplacingLayer(bool isOnOtherDevice) : isOnOtherDevice_(isOnOtherDevice) {}
+
+        int locks = 0;
+
+        int TryLock(int file) override {
+            ++locks;
+            return FileLayer::TryLock(file);
+        }
+        int Status(const std::string& path, struct stat& status) override {
+            const int result = FileLayer::Status(path, status);
+            if (locks == 1) {
+                ++(isOnOtherDevice_ ? status.st_dev : status.st_ino);
+            }
+            return result;
+        }
+
+    private:
+        bool isOnOtherDevice_;
+    };
+    for (const bool isOnOtherDevice : {false, true}) {
+        test::Spill(file_, kOld);
+        const auto layer = std::make_shared<ReplacingLayer>(isOnOtherDevice);
+        IniFileFactory(layer).GetIniFile(file_, "A")->WriteKey("Key", 2);
+        EXPECT_EQ(test::Slurp(file_), kNew);
+        EXPECT_EQ(layer->locks, 2) << isOnOtherDevice;
+    }
+}
+
+// It would hold the lock for as long as it runs.
+TEST_F(IniFileFaults, AProgramThatTheHostStartsGetsNoneOfItsOpenFiles) {
+    class LookingLayer : public FileLayer {
+    public:
+        int opened = 0;
+
+        int Open(const std::string& path, int flags, mode_t mode) override {
+            const int file = FileLayer::Open(path, flags, mode);
+            EXPECT_NE(::fcntl(file, F_GETFD) & FD_CLOEXEC, 0) << path;
+            ++opened;
+            return file;
+        }
+    };
+    const auto layer = std::make_shared<LookingLayer>();
+    IniFileFactory(layer).GetIniFile(file_, "A")->WriteKey("Key", 2);
+    EXPECT_GT(layer->opened, 3);
+}
+
+// As two processes of one number may be, each on a machine of its own.
+TEST_F(IniFileFaults, ATemporaryFileOfAnotherProcessIsLeftAlone) {
+    class CrowdedLayer : public FileLayer {
+    public:
+        std::string taken;
+
+        int Open(const std::string& path, int flags, mode_t mode) override {
+            if ((flags & O_EXCL) != 0 && taken.empty()) {
+                taken = path;
+                test::Spill(path, "another's");
+            }
+            return FileLayer::Open(path, flags, mode);
+        }
+    };
+    const auto layer = std::make_shared<CrowdedLayer>();
+    IniFileFactory(layer).GetIniFile(file_, "A")->WriteKey("Key", 2);
+    EXPECT_EQ(test::Slurp(file_), kNew);
+    EXPECT_EQ(test::Slurp(layer->taken), "another's");
+    EXPECT_TRUE(recorder_.troubles.empty());
+}
+
 TEST_F(IniFileFaults, ShortWritesAndInterruptedCallsAreCarriedOn) {
     class SlowLayer : public FileLayer {
     public:
@@ -275,6 +395,9 @@ TEST_F(IniFileFaults, AFileThatCannotBeReadGivesNoSectionAndIsTold) {
     EXPECT_EQ(recorder_.troubles.front().kind, StoreTrouble::Kind::NotRead);
     EXPECT_EQ(IniFileFactory().GetIniFile(folder_.Path(), "A"), nullptr) << "a folder";
     EXPECT_EQ(recorder_.troubles.size(), 2U);
+    ASSERT_EQ(::mkfifo(folder_.File("pipe.ini").c_str(), 0600), 0);
+    EXPECT_EQ(IniFileFactory().GetIniFile(folder_.File("pipe.ini"), "A"), nullptr) << "a pipe";
+    EXPECT_EQ(recorder_.troubles.size(), 3U);
 }
 
 TEST_F(IniFileFaults, KeepsTheOthersKeysWhenTheStampOfTheirFileIsTheOldOne) {

@@ -223,6 +223,15 @@ TEST_F(IniFileSectionTest, AByteOrderMarkThatComesToTheTopOfTheFileStaysInItsNam
     EXPECT_EQ(Open("")->ReadKeyOr("\xEF\xBB\xBFKey", 0), 1);
 }
 
+TEST_F(IniFileSectionTest, PassesOverTheByteOrderMarkOfTheFileAndWritesNone) {
+    for (const std::string above : {"", "; remark\n"}) {
+        test::Spill(file_, "\xEF\xBB\xBF" + above + "Key=1\n");
+        Open("")->WriteKey("Other", 2);
+        EXPECT_EQ(test::Slurp(file_), above + "Key=1\nOther=2\n");
+    }
+    EXPECT_TRUE(recorder_.troubles.empty());
+}
+
 TEST_F(IniFileSectionTest, ADoubledKeyStaysWhereItIsThroughLaterWrites) {
     test::Spill(file_, "[A]\nFirst=1\nKey=1\nKey=2\nLast=1\n");
     for (const int value : {2, 3}) {
@@ -230,6 +239,12 @@ TEST_F(IniFileSectionTest, ADoubledKeyStaysWhereItIsThroughLaterWrites) {
         EXPECT_EQ(test::Slurp(file_),
                   "[A]\nFirst=1\nKey=1\nKey=2\nLast=" + std::to_string(value) + "\n");
     }
+}
+
+TEST_F(IniFileSectionTest, EachLineOfADoubledKeyStaysBelowItsOwnComment) {
+    test::Spill(file_, "[A]\n; one\nKey=1\n; two\nKey=2\n; three\nKey=3\n");
+    Open("A")->WriteKey("New", 1);
+    EXPECT_EQ(test::Slurp(file_), "[A]\n; one\nKey=1\n; two\nKey=2\n; three\nKey=3\nNew=1\n");
 }
 
 TEST_F(IniFileSectionTest, ClearTakesADoubledKeyWithAllItsLinesAndKeepsTheComments) {
@@ -268,6 +283,27 @@ TEST_F(IniFileSectionTest, ClearTakesTheKeysOfOneSectionAndKeepsItsComments) {
               "New=4\n"
               "[B]\n"
               "Key=3\n");
+}
+
+TEST_F(IniFileSectionTest, ManyNewSectionsStandInTheOrderInWhichTheyWereMade) {
+    std::string expected;
+    {
+        const auto section = Open("");
+        for (int i = 40; i > 0; --i) {
+            const std::string name = "S" + std::to_string(i);
+            section->GetSection(name.c_str())->WriteKey("Key", i);
+            expected +=
+                (expected.empty() ? "[" : "\n[") + name + "]\nKey=" + std::to_string(i) + "\n";
+        }
+    }
+    EXPECT_EQ(test::Slurp(file_), expected);
+}
+
+TEST_F(IniFileSectionTest, ANewSectionStandsBelowAllThatLiesInsideTheOneBesideIt) {
+    test::Spill(file_, "[A]\n[A][B]\nKey=1\n[A][B][C]\nKey=1\n[Z]\nKey=1\n");
+    Open("A")->GetSection("New")->WriteKey("Key", 2);
+    EXPECT_EQ(test::Slurp(file_),
+              "[A]\n[A][B]\nKey=1\n[A][B][C]\nKey=1\n\n[A][New]\nKey=2\n[Z]\nKey=1\n");
 }
 
 TEST_F(IniFileSectionTest, AnEmptySectionStaysInTheFileThroughLaterWrites) {
@@ -359,6 +395,18 @@ TEST_F(IniFileSectionTest, ReplaysRemovedAndNewSectionsOnWhatTheFileHoldsByThen)
     test::Spill(file_, "[Gone]\nKey=1\nMore=1\n[Gone;3]\nKey=1\n[Kept]\nKey=1\n");
     section->Flush();
     EXPECT_EQ(test::Slurp(file_), "[Kept]\nKey=1\n\n[Empty]\n");
+}
+
+TEST_F(IniFileSectionTest, WhatItRemovedOnceMayBeWrittenAgainByAnother) {
+    test::Spill(file_, "[Gone]\nKey=1\n");
+    const auto section = Open("");
+    section->RemoveSections("Gone");
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "");
+    test::Spill(file_, "[Gone]\nKey=2\n");
+    section->WriteKey("Mine", 1);
+    section->Flush();
+    EXPECT_EQ(test::Slurp(file_), "Mine=1\n[Gone]\nKey=2\n");
 }
 
 TEST_F(IniFileSectionTest, LeavesAloneWhatItDidNotTouchSinceTheLastFlush) {

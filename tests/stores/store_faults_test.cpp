@@ -227,7 +227,7 @@ mode_t ModeOf(const std::string& path) {
 }
 
 TEST_P(EveryStore, KeepsTheModeOfItsFileAndNeverShowsMoreOfIt) {
-    for (const mode_t mode : {0600U, 0640U, 0664U, 0666U}) {
+    for (const mode_t mode : {0600U, 0640U, 02640U, 0664U, 0666U}) {
         store_.PutBack(1);
         ASSERT_EQ(::chmod(store_.Path().c_str(), mode), 0);
         const auto layer = std::make_shared<test::AskingLayer>([&](const std::string&, int) {

@@ -73,11 +73,13 @@ TEST(UserProfile, LiesInTheHomeFolderWithoutAConfigurationFolder) {
 
 TEST(UserProfile, LastsAsLongAsTheProcessWhereThereIsNoFolder) {
     const Variable configuration("XDG_CONFIG_HOME", nullptr);
-    const Variable home("HOME", nullptr);
-    UserProfile profile;
-    profile.WriteProfileInteger("Plot", "Key", 1);
-    EXPECT_EQ(profile.GetProfileInteger("Plot", "Key", 0), 1);
-    EXPECT_EQ(UserProfile().GetProfileInteger("Plot", "Key", 0), 0);
+    for (const char* const folder : {static_cast<const char*>(nullptr), ""}) {
+        const Variable home("HOME", folder);
+        UserProfile profile;
+        profile.WriteProfileInteger("Plot", "Key", 1);
+        EXPECT_EQ(profile.GetProfileInteger("Plot", "Key", 0), 1);
+        EXPECT_EQ(UserProfile().GetProfileInteger("Plot", "Key", 0), 0);
+    }
 }
 
 TEST(UserProfile, TellsTheHostWhenItsFolderCannotBeMade) {
@@ -133,6 +135,15 @@ TEST(Registry, OnlyABackslashLeadsDown) {
     EXPECT_THAT(registry.SubKeys(""), ElementsAre("App"));
     EXPECT_THAT(registry.SubKeys("App/DockingPaneLayouts"), ElementsAre());
     EXPECT_THAT(registry.SubKeys("Missing\\Key"), ElementsAre());
+}
+
+TEST(Registry, FindsTheLowestOfSeveralSectionsOfAName) {
+    auto store = std::make_unique<IniFileSection>();
+    store->GetIndexedSection("App", 3)->WriteKey("Left", 3);
+    store->GetIndexedSection("App", 2)->WriteKey("Left", 2);
+    Registry registry(std::move(store));
+    EXPECT_EQ(registry.GetKey("App")->ReadKeyOr("Left", 0), 2);
+    EXPECT_THAT(registry.SubKeys(""), ElementsAre("App"));
 }
 
 TEST(Registry, DeletesAKeyWithAllBelowIt) {
@@ -194,6 +205,8 @@ TEST(Registry, MayBeReplacedAndComesBack) {
     EXPECT_EQ(Registry::Instance(), replacement.get());
     EXPECT_EQ(Registry::Install(former), replacement);
     EXPECT_EQ(Registry::Instance(), former.get());
+    Registry::Install(nullptr);
+    EXPECT_NE(Registry::Instance(), nullptr);
 }
 
 }  // namespace
