@@ -20,6 +20,7 @@ protected:
 private:
     CComboBox& model_;
     QComboBox& combo_;
+    bool isFilled_ = false;
 };
 
 }  // namespace kvopt

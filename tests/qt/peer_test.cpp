@@ -140,6 +140,15 @@ TEST_F(Peers, ShowTheEntriesThatTheProgramAddsAndTakesAway) {
     }});
 }
 
+TEST_F(Peers, MakeADropDownListWideEnoughForEntriesThatComeLater) {
+    Run({[&] {
+        const auto* combo = Find<QComboBox>(kAxis);
+        const int before = combo->sizeHint().width();
+        page_.The<CComboBox>(kAxis).AddString(L"A temperature that is written out in full");
+        EXPECT_GT(combo->sizeHint().width(), before);
+    }});
+}
+
 TEST_F(Peers, TakeFreeTextInAnEditableDropDownList) {
     Run({[&] {
         auto* combo = Find<QComboBox>(kScale);
