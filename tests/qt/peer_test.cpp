@@ -288,7 +288,7 @@ TEST_F(Peers, LeaveAWidgetAsTheModelHasItWhenAGestureIsRefused) {
 TEST_F(Peers, TellTheModelWhereTheUserMovesTheFocus) {
     Run({[&] {
         auto* name = Find<QLineEdit>(kName);
-        EXPECT_EQ(QApplication::focusWidget(), name) << "the first control has it at first";
+        EXPECT_EQ(Front()->focusWidget(), name) << "the first control has it at first";
         QTest::keyClick(name, Qt::Key_Tab);
         EXPECT_EQ(page_.GetFocusControl(), page_.GetDlgItem(kAxis));
         QTest::mouseClick(name, Qt::LeftButton);

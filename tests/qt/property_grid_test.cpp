@@ -177,7 +177,7 @@ TEST_F(PropertyGrids, PickABoolOfItsTwoTextsByMouse) {
          },
          [&] {
              EXPECT_EQ(page_.heard, Texts{"Red=Yes"});
-             EXPECT_EQ(QApplication::focusWidget(), tree_);
+             EXPECT_EQ(Front()->focusWidget(), tree_);
              EXPECT_EQ(List()->geometry(),
                        tree_->visualRect(Index("Red", 1)).adjusted(0, 0, 0, -1));
              Click("Count");
@@ -229,7 +229,7 @@ TEST_F(PropertyGrids, CommitATextOnReturnAndPressNoButton) {
         EXPECT_EQ(Editor(), nullptr);
         EXPECT_EQ(page_.count, 12);
         EXPECT_EQ(page_.heard, Texts{"Count=12"});
-        EXPECT_EQ(QApplication::focusWidget(), tree_);
+        EXPECT_EQ(Front()->focusWidget(), tree_);
         EXPECT_FALSE(sheet_.HasEnded());
         Key(Qt::Key_Return);
         EXPECT_NE(Editor(), nullptr);
@@ -289,12 +289,12 @@ TEST_F(PropertyGrids, LeaveTheGridByTabFromARowOrItsEditor) {
          },
          [&] {
              EXPECT_EQ(page_.count, 4);
-             EXPECT_EQ(QApplication::focusWidget(), Find<QPushButton>(kBeside));
-             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
-             EXPECT_EQ(QApplication::focusWidget(), tree_);
+             EXPECT_EQ(Front()->focusWidget(), Find<QPushButton>(kBeside));
+             QTest::keyClick(Front()->focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+             EXPECT_EQ(Front()->focusWidget(), tree_);
              EXPECT_EQ(page_.GetFocusControl(), &Grid());
              Key(Qt::Key_Tab);
-             EXPECT_EQ(QApplication::focusWidget(), Find<QPushButton>(kBeside));
+             EXPECT_EQ(Front()->focusWidget(), Find<QPushButton>(kBeside));
          }});
 }
 

@@ -111,7 +111,7 @@ TEST_F(Worksheets, CommitACellOnReturnAndPressNoButton) {
         EXPECT_EQ(Editor(), nullptr);
         Key(Qt::Key_Return);
         EXPECT_FALSE(sheet_.HasEnded()) << "nor does Return on a cell without an editor";
-        EXPECT_EQ(QApplication::focusWidget(), table_);
+        EXPECT_EQ(Front()->focusWidget(), table_);
     }});
 }
 
@@ -173,8 +173,8 @@ TEST_F(Worksheets, LeaveTheTableByTabFromACellOrItsEditor) {
          },
          [&] {
              EXPECT_EQ(Value(1), "8");
-             EXPECT_NE(QApplication::focusWidget(), table_);
-             EXPECT_FALSE(table_->isAncestorOf(QApplication::focusWidget()));
+             EXPECT_NE(Front()->focusWidget(), table_);
+             EXPECT_FALSE(table_->isAncestorOf(Front()->focusWidget()));
          }});
 }
 
