@@ -13,6 +13,7 @@ ComboPeer::ComboPeer(QtDesktop& desktop, CComboBox& model, QComboBox& combo)
     : Peer(desktop, model, combo), model_(model), combo_(combo) {
     combo.setEditable(model.IsEditable());
     combo.setInsertPolicy(QComboBox::NoInsert);
+    combo.setSizeAdjustPolicy(QComboBox::AdjustToContents);
     combo.setMinimumContentsLength(8);
     combo.setFocusPolicy(Qt::StrongFocus);
     connect(&combo, &QComboBox::activated, this,
@@ -41,12 +42,6 @@ void ComboPeer::Push(WindowChange change) {
         for (int index = 0; index < model_.GetCount(); ++index) {
             entries << ToQt(model_.GetItemText(index));
         }
-        // The widget takes its size from what it holds when it is first shown. Only one that gets
-        // other entries later has to follow them, which makes its popup at once.
-        if (isFilled_) {
-            combo_.setSizeAdjustPolicy(QComboBox::AdjustToContents);
-        }
-        isFilled_ = true;
         combo_.clear();
         combo_.addItems(entries);
     }

@@ -20,7 +20,6 @@ protected:
 private:
     CComboBox& model_;
     QComboBox& combo_;
-    bool isFilled_ = false;
 };
 
 }  // namespace kvopt
