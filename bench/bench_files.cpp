@@ -22,6 +22,11 @@ OpenFile Open(const std::string& path, const char* mode) {
     throw std::system_error(errno, std::generic_category(), path);
 }
 
+std::filesystem::path ParentOfFolder() {
+    const char* const chosen = std::getenv("KVOPT_BENCH_FOLDER");
+    return chosen != nullptr ? chosen : std::filesystem::temp_directory_path();
+}
+
 }  // namespace
 
 void WriteFile(const std::string& path, const std::string& text) {
@@ -41,21 +46,7 @@ std::string ReadFile(const std::string& path) {
     return text;
 }
 
-BenchFolder::BenchFolder() {
-    const char* const chosen = std::getenv("KVOPT_BENCH_FOLDER");
-    const std::filesystem::path parent =
-        chosen != nullptr ? chosen : std::filesystem::temp_directory_path();
-    std::filesystem::create_directories(parent);
-    path_ = (parent / "kvopt-bench-XXXXXX").string();
-    if (mkdtemp(path_.data()) == nullptr) {
-        Fail(path_);
-    }
-}
-
-BenchFolder::~BenchFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-}
+BenchFolder::BenchFolder() : folder_(ParentOfFolder()) {}
 
 std::string BenchFolder::FreshPath() {
     if (!last_.empty()) {

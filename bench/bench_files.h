@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "tests/support/temporary_folder.h"
+
 namespace kvopt::bench {
 
 /// What a program does that has no store: writes a text straight into its file, flushes it to disk
@@ -14,17 +16,14 @@ std::string ReadFile(const std::string& path);
 class BenchFolder {
 public:
     BenchFolder();
-    BenchFolder(const BenchFolder&) = delete;
-    BenchFolder& operator=(const BenchFolder&) = delete;
-    ~BenchFolder();
 
     /// Of the file of this name in it.
-    std::string Path(const std::string& name) const { return path_ + "/" + name; }
+    std::string Path(const std::string& name) const { return folder_.File(name); }
     /// Of a file that was not there before; the one given before is removed.
     std::string FreshPath();
 
 private:
-    std::string path_;
+    test::TemporaryFolder folder_;
     std::string last_;
     int count_ = 0;
 };

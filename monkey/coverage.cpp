@@ -6,42 +6,11 @@
 
 #include "kvopt/platform.h"
 #include "kvopt/text.h"
+#include "tests/support/control_kind_name.h"
 
 namespace kvopt::monkey {
 
 namespace {
-
-const char* NameOf(ControlKind kind) {
-    switch (kind) {
-        case ControlKind::Label:
-            return "label";
-        case ControlKind::Edit:
-            return "edit";
-        case ControlKind::ComboList:
-            return "drop-down list";
-        case ControlKind::ComboEdit:
-            return "drop-down list with free text";
-        case ControlKind::ListSingle:
-            return "list";
-        case ControlKind::ListMulti:
-            return "list of several marks";
-        case ControlKind::Push:
-            return "push button";
-        case ControlKind::Check:
-            return "check box";
-        case ControlKind::Radio:
-            return "radio button";
-        case ControlKind::Spin:
-            return "arrows";
-        case ControlKind::Worksheet:
-            return "worksheet";
-        case ControlKind::PropertyGrid:
-            return "property grid";
-        case ControlKind::Markup:
-            return "header";
-    }
-    return "";
-}
 
 const char* NameOf(Refuser refuser) {
     switch (refuser) {
@@ -115,7 +84,7 @@ std::string Coverage::AimOf(const UserStep& step, const StepScope& scope) {
     const CControl* control = dialog != nullptr && step.target.number != 0
                                   ? dialog->GetDlgItem(step.target.number)
                                   : nullptr;
-    return control != nullptr ? NameOf(control->Kind()) : "frame";
+    return control != nullptr ? test::KindName(control->Kind()) : "frame";
 }
 
 void Coverage::Take(StepVerb verb, const std::string& aim, bool isTaken) {

@@ -1,10 +1,8 @@
 #include "monkey/stage.h"
 
-#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <map>
-#include <stdexcept>
-#include <utility>
 
 #include "kvopt/study.h"
 #include "monkey/value_text.h"
@@ -15,16 +13,11 @@ namespace {
 
 /// In memory, where the system has such a file system: nothing of a run is kept, so that nothing
 /// needs to be flushed to a disk.
-std::filesystem::path MakeFolder() {
+std::filesystem::path ParentOfFolder() {
     const std::filesystem::path memory("/dev/shm");
     std::error_code ignored;
     const bool hasMemory = std::filesystem::is_directory(memory, ignored);
-    const auto root = hasMemory ? memory : std::filesystem::temp_directory_path();
-    std::string name = (root / "kvopt-monkey-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("no folder can be made for the stores");
-    }
-    return name;
+    return hasMemory ? memory : std::filesystem::temp_directory_path();
 }
 
 /// Each file is read once.
@@ -38,24 +31,13 @@ const StudyData& DataOf(const std::string& studyFile) {
 }  // namespace
 
 Stage::Stage(const std::string& studyFile)
-    : folder_(MakeFolder()),
-      formerFactory_(IniFileFactory::Install(std::make_shared<IniFileFactory>())),
-      formerProfile_(UserProfile::Install(std::make_shared<UserProfile>(
-          IniFileFactory::Instance()->GetIniFile(FileOf("profile.ini"), "")))),
-      formerRegistry_(Registry::Install(std::make_shared<Registry>(
-          IniFileFactory::Instance()->GetIniFile(FileOf("registry.ini"), "")))),
+    : stores_(ParentOfFolder()),
       study_(std::make_unique<ReferenceStudy>(DataOf(studyFile), FileOf("study.ini"))) {
     Investigation::SetActiveInvestigation(study_.get());
 }
 
 Stage::~Stage() {
     Investigation::SetActiveInvestigation(nullptr);
-    study_.reset();
-    Registry::Install(std::move(formerRegistry_));
-    UserProfile::Install(std::move(formerProfile_));
-    IniFileFactory::Install(std::move(formerFactory_));
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 std::string Stage::Remembered() const {
@@ -63,7 +45,7 @@ std::string Stage::Remembered() const {
     study_->GetSelectedResponses(responses, SelectResponseBase::Ordinary);
     std::string all = "selected: " + TextOf(responses) + '\n';
     for (const char* name : {"study.ini", "profile.ini", "registry.ini"}) {
-        std::ifstream file(folder_ / name, std::ios::binary);
+        std::ifstream file(FileOf(name), std::ios::binary);
         std::string section;
         for (std::string line; std::getline(file, line);) {
             if (line.starts_with('[')) {

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "kvopt/host.h"
-#include "kvopt/stores.h"
+#include "tests/support/installed_stores.h"
 
 namespace kvopt::monkey {
 
@@ -19,7 +18,7 @@ public:
     Stage& operator=(const Stage&) = delete;
 
     ReferenceStudy& Study() { return *study_; }
-    std::string FileOf(const std::string& name) const { return (folder_ / name).string(); }
+    std::string FileOf(const std::string& name) const { return stores_.File(name); }
     /// What a refused page may not change: the study's selection of responses, its ini file, the
     /// user's registry, and the profile without the resolutions, which a page may keep at any time.
     std::string Remembered() const;
@@ -27,10 +26,7 @@ public:
     std::vector<std::string> Names() const;
 
 private:
-    std::filesystem::path folder_;
-    std::shared_ptr<IniFileFactory> formerFactory_;
-    std::shared_ptr<UserProfile> formerProfile_;
-    std::shared_ptr<Registry> formerRegistry_;
+    test::InstalledStores stores_;
     std::unique_ptr<ReferenceStudy> study_;
 };
 

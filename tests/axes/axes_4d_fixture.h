@@ -23,8 +23,6 @@ namespace kvopt::test {
 
 using Texts = std::vector<std::string>;
 
-inline const std::string kNone = AxisInfo::GetNotUsedName();
-
 enum class Plot { Process, Mixture };
 
 inline void PrintTo(Plot plot, std::ostream* out) {

@@ -17,6 +17,9 @@
 
 namespace kvopt::test {
 
+/// What an axis without a factor shows.
+inline const std::string kNone = AxisInfo::GetNotUsedName();
+
 /// One question whether a factor may be plotted.
 struct FactorQuestion {
     std::string factor;

@@ -18,8 +18,6 @@ namespace kvopt::test {
 
 using Texts = std::vector<std::string>;
 
-inline const std::string kNone = AxisInfo::GetNotUsedName();
-
 /// Temp2 stands before Temp, so that a search by prefix meets the wrong one first.
 class AxisPageTest : public testing::Test {
 protected:

@@ -42,7 +42,4 @@ struct OtherNumber {
 
 const std::vector<OtherNumber>& OtherNumbers();
 
-/// How a failure names a kind.
-const char* KindName(ControlKind kind);
-
 }  // namespace kvopt::test

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "census/source_tokens.h"
+#include "tests/support/control_kind_name.h"
 
 namespace kvopt::test {
 namespace {

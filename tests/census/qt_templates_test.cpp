@@ -21,6 +21,7 @@
 #include "kvopt/platform.h"
 #include "kvopt/qt.h"
 #include "kvopt/text.h"
+#include "tests/support/control_kind_name.h"
 #include "tests/support/qt_application.h"
 
 namespace kvopt::test {

@@ -12,6 +12,7 @@
 #include "kvopt/text.h"
 #include "qt_texts.h"
 #include "selection_texts.h"
+#include "tests/support/control_kind_name.h"
 
 namespace kvopt::test {
 namespace {

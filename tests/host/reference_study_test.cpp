@@ -7,25 +7,17 @@
 
 #include "kvopt/host/study_builder.h"
 #include "kvopt/stores.h"
+#include "support/temporary_folder.h"
 
 namespace kvopt {
 namespace {
 
 class ReferenceStudySettings : public testing::Test {
 protected:
-    ReferenceStudySettings()
-        : folder_(std::filesystem::path(testing::TempDir()) /
-                  ("kvopt host " + std::to_string(testing::UnitTest::GetInstance()->random_seed()) +
-                   testing::UnitTest::GetInstance()->current_test_info()->name())) {
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_);
-    }
-    ~ReferenceStudySettings() override { std::filesystem::remove_all(folder_); }
-
-    std::string IniFile() const { return (folder_ / "study.ini").string(); }
+    std::string IniFile() const { return folder_.File("a study.ini"); }
 
 private:
-    std::filesystem::path folder_;
+    const test::TemporaryFolder folder_;
 };
 
 StudyBuilder WithSettings() {

@@ -7,6 +7,7 @@
 #include "kvopt/stores/user_profile.h"
 #include "kvopt/text.h"
 #include "platform/platform_test.h"
+#include "support/memory_profile.h"
 
 namespace kvopt {
 namespace {
@@ -126,9 +127,6 @@ class GridPages : public PlatformTest {
 protected:
     using Page = SettingsPage<Base>;
 
-    GridPages() : former(UserProfile::Install(std::make_shared<UserProfile>(nullptr))) {}
-    ~GridPages() override { UserProfile::Install(former); }
-
     static void SetProfile(int value) {
         UserProfile::Instance()->WriteProfileInteger("Settings", "GeneralOptionsShowDetails",
                                                      value);
@@ -140,7 +138,7 @@ protected:
     }
     CButton& Details() { return *page.template Item<CButton>(kDetails); }
 
-    std::shared_ptr<UserProfile> former;
+    test::MemoryProfile profile;
     Settings settings;
     Page page{settings};
 };

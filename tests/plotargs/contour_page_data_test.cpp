@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "plotargs/plot_study.h"
+#include "support/memory_profile.h"
 #include "support/plot_compare.h"
 #include "support/recording_section.h"
 
@@ -13,19 +14,14 @@ using testing::ElementsAre;
 
 class ContourPageDataTest : public testing::Test {
 protected:
-    ContourPageDataTest()
-        : formerProfile_(UserProfile::Install(
-              std::make_shared<UserProfile>(std::make_unique<IniFileSection>()))) {
+    ContourPageDataTest() {
         study.Number("A", 0, 10);
         study.Number("B", 0, 10);
         study.Response("Y1");
         study.Response("Y2");
         GeneralSettings::Install(&settings);
     }
-    ~ContourPageDataTest() override {
-        GeneralSettings::Install(nullptr);
-        UserProfile::Install(formerProfile_);
-    }
+    ~ContourPageDataTest() override { GeneralSettings::Install(nullptr); }
 
     ContourPageData Contour() { return {&study, false, false, false, false}; }
     ContourPageData DesignSpace() { return {&study, true, false, false, false}; }
@@ -38,7 +34,7 @@ protected:
     GeneralSettings::Settings settings;
 
 private:
-    std::shared_ptr<UserProfile> formerProfile_;
+    MemoryProfile profile_;
 };
 
 TEST_F(ContourPageDataTest, StartsFromItsDefaults) {

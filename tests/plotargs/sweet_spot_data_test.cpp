@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "plotargs/plot_study.h"
+#include "support/memory_profile.h"
 #include "support/plot_compare.h"
 #include "support/recording_section.h"
 
@@ -44,15 +45,8 @@ private:
 
 class SweetSpotDataTest : public testing::Test {
 protected:
-    SweetSpotDataTest()
-        : formerProfile_(UserProfile::Install(
-              std::make_shared<UserProfile>(std::make_unique<IniFileSection>()))) {
-        study.iniFileName = "study.ini";
-    }
-    ~SweetSpotDataTest() override {
-        GeneralSettings::Install(nullptr);
-        UserProfile::Install(formerProfile_);
-    }
+    SweetSpotDataTest() { study.iniFileName = "study.ini"; }
+    ~SweetSpotDataTest() override { GeneralSettings::Install(nullptr); }
 
     void AddFactors() {
         study.Number("A", 0, 10);
@@ -69,7 +63,7 @@ protected:
     LookedUpStudy study;
 
 private:
-    std::shared_ptr<UserProfile> formerProfile_;
+    MemoryProfile profile_;
 };
 
 // A new plot.

@@ -13,6 +13,7 @@
 
 #include "kvopt/plotargs/sweet_spot_data.h"
 #include "plotargs/plot_study.h"
+#include "support/memory_profile.h"
 #include "support/plot_compare.h"
 #include "support/recording_section.h"
 
@@ -51,9 +52,7 @@ private:
 
 class SweetSpotTest : public testing::Test {
 protected:
-    SweetSpotTest()
-        : formerProfile_(UserProfile::Install(
-              std::make_shared<UserProfile>(std::make_unique<IniFileSection>()))) {
+    SweetSpotTest() {
         study.Number("Temperature", 20, 80).units = "°C";
         study.Number("Pressure", 0.1, 2.5).units = "bar";
         study.Number("Time", 5, 60).units = "min";
@@ -63,7 +62,6 @@ protected:
         study.Part("Emulsifier", 0.05, 0.2);
         study.favouriteSetpoint.SetStart({50, 0.7F, 5, 2, 0.5F, 0.3F, 0.2F});
     }
-    ~SweetSpotTest() override { UserProfile::Install(formerProfile_); }
 
     SweetSpotData Fresh(bool mixture = false) { return {&study, mixture, "study.ini"}; }
     /// A plot in which everything that is kept differs from the defaults.
@@ -118,7 +116,7 @@ protected:
     std::unique_ptr<ConfigurationSection> root = store.Root();
 
 private:
-    std::shared_ptr<UserProfile> formerProfile_;
+    MemoryProfile profile_;
 };
 
 }  // namespace kvopt::test

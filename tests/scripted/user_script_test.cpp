@@ -9,6 +9,7 @@
 #include <string>
 
 #include "kvopt/text/exceptions.h"
+#include "support/temporary_folder.h"
 
 namespace kvopt {
 namespace {
@@ -246,8 +247,8 @@ TEST(UserScript, AppendsAnotherScript) {
 }
 
 TEST(UserScript, ReadsAFileAndNamesItInItsFaults) {
-    const std::string path =
-        (std::filesystem::temp_directory_path() / "kvopt_user_script_test.script").string();
+    const test::TemporaryFolder folder;
+    const std::string path = folder.File("user.script");
     std::ofstream(path) << "ok\nclik\n";
     try {
         UserScript::FromFile(path);
@@ -263,7 +264,7 @@ TEST(UserScript, ReadsAFileAndNamesItInItsFaults) {
     EXPECT_TRUE(UserScript::FromFile(path).Steps().empty());
     std::filesystem::remove(path);
     EXPECT_THROW(UserScript::FromFile(path), FileError);
-    EXPECT_THROW(UserScript::FromFile(std::filesystem::temp_directory_path().string()), FileError);
+    EXPECT_THROW(UserScript::FromFile(folder.Path()), FileError);
 }
 
 TEST(UserScript, EveryVerbStandsInTheDocument) {

@@ -20,6 +20,7 @@
 #include "kvopt/study.h"
 #include "kvopt/text.h"
 #include "support/fake_study.h"
+#include "support/memory_profile.h"
 #include "support/plot_compare.h"
 #include "support/recording_section.h"
 
@@ -65,15 +66,8 @@ inline SectionLog Changes(const SectionLog& log) {
 
 class ContourTest : public testing::Test {
 protected:
-    ContourTest()
-        : formerProfile_(UserProfile::Install(
-              std::make_shared<UserProfile>(std::make_unique<IniFileSection>()))) {
-        study.iniFileName = kIniFile;
-    }
-    ~ContourTest() override {
-        Investigation::SetActiveInvestigation(nullptr);
-        UserProfile::Install(formerProfile_);
-    }
+    ContourTest() { study.iniFileName = kIniFile; }
+    ~ContourTest() override { Investigation::SetActiveInvestigation(nullptr); }
 
     void AddFactors(const FactorNumbers& numbers) {
         for (int i = 1; i <= numbers.mixture; ++i) {
@@ -136,7 +130,7 @@ protected:
     ToldStudy study{files.Log()};
 
 private:
-    std::shared_ptr<UserProfile> formerProfile_;
+    MemoryProfile profile_;
     std::unique_ptr<ContourPlotData> data_;
 };
 

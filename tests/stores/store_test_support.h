@@ -1,54 +1,19 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
-#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "kvopt/stores.h"
 #include "kvopt/text.h"
+#include "tests/support/temporary_folder.h"
 
 namespace kvopt::test {
-
-/// A folder of the test's own, removed with what is in it.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        static int count = 0;
-        path_ = std::filesystem::temp_directory_path() /
-                ("kvopt-stores-" + std::to_string(::getpid()) + "-" + std::to_string(++count));
-        std::filesystem::create_directories(path_);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
-        std::error_code error;
-        std::filesystem::remove_all(path_, error);
-    }
-
-    std::string File(const std::string& name) const { return (path_ / name).string(); }
-    std::string Path() const { return path_.string(); }
-    /// The names in the folder, sorted.
-    std::vector<std::string> Names() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(path_)) {
-            names.push_back(entry.path().filename().string());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
-private:
-    std::filesystem::path path_;
-};
 
 /// How much of something a test does: as told by a variable of the environment, or else little
 /// enough for every day.

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <set>
@@ -18,6 +17,7 @@
 #include "kvopt/text.h"
 #include "tests/stores/store_test_support.h"
 #include "tests/stories/played_story.h"
+#include "tests/support/installed_stores.h"
 #include "tests/support/plot_compare.h"
 #include "tests/text/german_process.h"
 
@@ -71,32 +71,10 @@ std::map<std::string, std::string> Values(const ContourPlotData& plot) {
     return values;
 }
 
-/// A folder for one study's stores, with an ini factory of its own.
-class Stores {
-public:
-    Stores() : former_(IniFileFactory::Install(std::make_shared<IniFileFactory>())) {
-        std::string name = (std::filesystem::temp_directory_path() / "kvopt-names-XXXXXX").string();
-        folder_ = mkdtemp(name.data());
-        formerProfile_ = UserProfile::Install(std::make_shared<UserProfile>(
-            IniFileFactory::Instance()->GetIniFile(File("profile.ini"), "")));
-    }
-    ~Stores() {
-        UserProfile::Install(formerProfile_);
-        IniFileFactory::Install(former_);
-        std::filesystem::remove_all(folder_);
-    }
-    Stores(const Stores&) = delete;
-    Stores& operator=(const Stores&) = delete;
-
-    std::string File(const std::string& name) const { return (folder_ / name).string(); }
-    /// Nothing read from the file before is remembered.
-    static void Forget() { IniFileFactory::Install(std::make_shared<IniFileFactory>()); }
-
-private:
-    std::shared_ptr<IniFileFactory> former_;
-    std::shared_ptr<UserProfile> formerProfile_;
-    std::filesystem::path folder_;
-};
+/// Nothing is remembered of the ini files that were read before.
+void Forget() {
+    IniFileFactory::Install(std::make_shared<IniFileFactory>());
+}
 
 std::unique_ptr<ContourPlotData> NewPlot(ReferenceStudy& study) {
     return std::make_unique<ContourPlotData>(&study, 4, study.GetIniFileName(), false, false, false,
@@ -115,7 +93,7 @@ TEST_P(HostileNames, GoThroughWizardIniFileAndSavedPlotAndComeBackTheSame) {
         if (german) {
             germanProcess.emplace();
         }
-        const Stores stores;
+        const InstalledStores stores;
         const auto study = StudyNamed(nasty.text, stores.File("study.ini"));
         const auto plot = NewPlot(*study);
 
@@ -136,7 +114,7 @@ TEST_P(HostileNames, GoThroughWizardIniFileAndSavedPlotAndComeBackTheSame) {
                   std::vector<std::string>{nasty.text + "r"});
         EXPECT_TRUE(FactorConstants::IsMember(plot->GetPlotConstants(), nasty.text + "4"));
 
-        Stores::Forget();
+        Forget();
         const auto remembered = NewPlot(*study);
         EXPECT_EQ(Describe(remembered->GetAxisInfo(ContourPlotData::Process2D), 2),
                   Describe(plot->GetAxisInfo(ContourPlotData::Process2D), 2));

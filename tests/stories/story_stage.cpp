@@ -1,30 +1,11 @@
 #include "tests/stories/story_stage.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <set>
-#include <stdexcept>
-#include <utility>
 
 #include "kvopt/platform.h"
 
 namespace kvopt::test {
-
-namespace {
-
-constexpr const char* kProfile = "profile.ini";
-constexpr const char* kRegistry = "registry.ini";
-
-std::filesystem::path MakeFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "kvopt-story-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("no folder can be made for the story");
-    }
-    return name;
-}
-
-}  // namespace
 
 std::string StoryFile(const std::string& name) {
     return std::string(KVOPT_SOURCE_DIR) + "/tests/stories/" + name;
@@ -39,13 +20,7 @@ std::vector<Story> AllStories() {
 }
 
 StoryStage::StoryStage(const Story& story)
-    : folder_(MakeFolder()),
-      oldFactory_(IniFileFactory::Install(std::make_shared<IniFileFactory>())),
-      oldProfile_(UserProfile::Install(std::make_shared<UserProfile>(
-          IniFileFactory::Instance()->GetIniFile(FileOf(kProfile), "")))),
-      oldRegistry_(Registry::Install(std::make_shared<Registry>(
-          IniFileFactory::Instance()->GetIniFile(FileOf(kRegistry), "")))),
-      study_(
+    : study_(
           LoadStudy(std::string(KVOPT_SOURCE_DIR) + "/examples/studies/" + story.study + ".json")) {
     study_->SetIniFileName(IniFile());
     Investigation::SetActiveInvestigation(study_.get());
@@ -53,11 +28,6 @@ StoryStage::StoryStage(const Story& story)
 
 StoryStage::~StoryStage() {
     Investigation::SetActiveInvestigation(nullptr);
-    study_.reset();
-    Registry::Install(std::move(oldRegistry_));
-    UserProfile::Install(std::move(oldProfile_));
-    IniFileFactory::Install(std::move(oldFactory_));
-    std::filesystem::remove_all(folder_);
 }
 
 void StoryStage::NoteResult(const std::string& what) const {
@@ -65,17 +35,13 @@ void StoryStage::NoteResult(const std::string& what) const {
 }
 
 std::string StoryStage::Bytes(const std::string& name) const {
-    std::ifstream file(folder_ / name, std::ios::binary);
+    std::ifstream file(FileOf(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 std::string StoryStage::AllStores() const {
-    std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
-        names.insert(entry.path().filename().string());
-    }
     std::string all;
-    for (const std::string& name : names) {
+    for (const std::string& name : stores_.Folder().Names()) {
         all += "==== " + name + '\n' + Bytes(name);
         all += all.back() == '\n' ? "" : "\n";
     }

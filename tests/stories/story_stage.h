@@ -1,13 +1,12 @@
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "kvopt/host.h"
-#include "kvopt/stores.h"
 #include "tests/stories/story.h"
+#include "tests/support/installed_stores.h"
 
 namespace kvopt::test {
 
@@ -23,7 +22,7 @@ public:
     ReferenceStudy& Study() { return *study_; }
     /// Of the study; does not exist before something is written.
     std::string IniFile() const { return FileOf("study.ini"); }
-    std::string FileOf(const std::string& name) const { return (folder_ / name).string(); }
+    std::string FileOf(const std::string& name) const { return stores_.File(name); }
 
     /// What a function answered, into the transcript.
     void NoteResult(const std::string& what) const;
@@ -33,10 +32,7 @@ public:
     std::string AllStores() const;
 
 private:
-    std::filesystem::path folder_;
-    std::shared_ptr<IniFileFactory> oldFactory_;
-    std::shared_ptr<UserProfile> oldProfile_;
-    std::shared_ptr<Registry> oldRegistry_;
+    InstalledStores stores_;
     std::unique_ptr<ReferenceStudy> study_;
 };
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "kvopt/stores.h"
-#include "stores/store_test_support.h"
 #include "support/fake_study.h"
+#include "support/temporary_folder.h"
 
 namespace kvopt {
 namespace {
