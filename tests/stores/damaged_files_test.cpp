@@ -127,6 +127,10 @@ INSTANTIATE_TEST_SUITE_P(Stores, DamagedPlot,
 INSTANTIATE_TEST_SUITE_P(PlotArguments, DamagedPlot,
                          testing::ValuesIn(FilesOf("tests/plotargs/golden", "design_space.json")),
                          NameOf);
+INSTANTIATE_TEST_SUITE_P(LevelPages, DamagedPlot,
+                         testing::ValuesIn(FilesOf("tests/statpages/golden",
+                                                   "confidence_level_page.json")),
+                         NameOf);
 
 TEST_P(DamagedPlot, OpensOrIsRefusedAndStays) {
     DamageEverywhere([&](const std::string& content) {
