@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "stores/crashing_layer_test_support.h"
@@ -241,19 +242,51 @@ TEST_P(EveryStore, KeepsTheModeOfItsFileAndNeverShowsMoreOfIt) {
     }
 }
 
+// Where only root may give files away, others give theirs to themselves.
 TEST_P(EveryStore, StaysWithItsOwnerAndGroup) {
-    if (::geteuid() != 0) {
-        GTEST_SKIP() << "only root may give files away";
-    }
+    const bool mayGiveAway = ::geteuid() == 0;
+    const uid_t owner = mayGiveAway ? 1234U : ::geteuid();
+    const gid_t group = mayGiveAway ? 2345U : ::getegid();
     store_.PutBack(1);
-    ASSERT_EQ(::chown(store_.Path().c_str(), 1234, 2345), 0);
+    ASSERT_EQ(::chown(store_.Path().c_str(), owner, group), 0);
     ASSERT_EQ(::chmod(store_.Path().c_str(), 0640), 0);
     EXPECT_FALSE(store_.Save(FileLayer::System(), 2).wasTold);
     struct stat status {};
     ASSERT_EQ(::stat(store_.Path().c_str(), &status), 0);
-    EXPECT_EQ(status.st_uid, 1234U);
-    EXPECT_EQ(status.st_gid, 2345U);
+    EXPECT_EQ(status.st_uid, owner);
+    EXPECT_EQ(status.st_gid, group);
     EXPECT_EQ(status.st_mode & 07777U, 0640U);
+}
+
+// A file that seems to be of another owner and group, to whom it may be given.
+class GivingFileLayer : public FileLayer {
+public:
+    static constexpr uid_t kOwner = 1234;
+    static constexpr gid_t kGroup = 2345;
+
+    int Status(const std::string& path, struct stat& status) override {
+        const int result = FileLayer::Status(path, status);
+        status.st_uid = kOwner;
+        status.st_gid = kGroup;
+        return result;
+    }
+    int ChangeOwner(int, uid_t owner, gid_t group) override {
+        given.emplace_back(owner, group);
+        return 0;
+    }
+
+    std::vector<std::pair<uid_t, gid_t>> given;
+};
+
+TEST_P(EveryStore, IsGivenToTheOwnerAndGroupOfItsFile) {
+    const auto layer = std::make_shared<GivingFileLayer>();
+    store_.PutBack(1);
+    EXPECT_FALSE(store_.Save(layer, 2).wasTold);
+    const std::pair owners(GivingFileLayer::kOwner, GivingFileLayer::kGroup);
+    EXPECT_FALSE(layer->given.empty());
+    for (const auto& given : layer->given) {
+        EXPECT_EQ(given, owners);
+    }
 }
 
 // A file that seems to be of another owner and group, which this process may not give it to.
